@@ -1,0 +1,56 @@
+// Conversions between narrow text (bytes in a Windows code page) and wide text (UTF-16), and the
+// machine's code pages. ICU does every conversion; code pages are Windows code-page numbers.
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace mv::codepage {
+
+// Code pages the library meets by name.
+inline constexpr int kBig5 = 950;
+inline constexpr int kGbk = 936;
+inline constexpr int kWestern = 1252;
+inline constexpr int kUtf8 = 65001;
+
+// Raised for a code page number that no converter serves.
+class ECodePageError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// The ICU converter name of a Windows code page ("windows-950-2000" for 950 ...); empty when the
+// number is not known.
+std::string ConverterName(int codePage);
+
+// The system's ANSI code page. On POSIX: the environment variable MV_CODEPAGE when it holds a
+// number, else the character set of the locale (BIG5 / BIG5-HKSCS -> 950, GBK / GB2312 /
+// GB18030 -> 936, UTF-8 -> 65001, anything else -> 1252).
+int SystemCodePage();
+
+// The user's ANSI code page; the same rules as SystemCodePage on POSIX.
+int UserCodePage();
+
+// Wide text of narrow text in `codePage`. Bytes that the code page does not map become U+FFFD.
+// Throws ECodePageError for an unknown code page.
+std::u16string ToWide(std::string_view text, int codePage);
+
+// Narrow text in `codePage` of wide text. Characters the code page cannot hold become "?".
+// Throws ECodePageError for an unknown code page.
+std::string FromWide(std::u16string_view text, int codePage);
+
+// Narrow text moved from one code page to another (through UTF-16); returns `text` unchanged when
+// both are the same.
+std::string Convert(std::string_view text, int fromCodePage, int toCodePage);
+
+// UTF-8 <-> UTF-16 (ill-formed input becomes U+FFFD).
+std::u16string WideFromUtf8(std::string_view text);
+std::string Utf8FromWide(std::u16string_view text);
+
+// Narrow text in the system code page <-> UTF-8, for files and terminals that speak UTF-8.
+std::string Utf8FromSystem(std::string_view text);
+std::string SystemFromUtf8(std::string_view text);
+
+}  // namespace mv::codepage
