@@ -1,0 +1,13 @@
+// Which edition an installation is.
+#pragma once
+
+#include <string>
+
+namespace mv::modules {
+
+// True when the system configuration file at `iniPath` names the Halvo edition: its key
+// [System] Edition holds "Halvo" (compared without regard to case, blanks around it ignored).
+// A missing file or key means another edition.
+bool MV_IsHalvo(const std::string& iniPath);
+
+}  // namespace mv::modules

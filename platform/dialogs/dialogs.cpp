@@ -1,0 +1,69 @@
+#include "platform/dialogs/dialogs.h"
+
+#include <cstdio>
+
+#include "platform/codepage/codepage.h"
+
+namespace mv::dialogs {
+namespace {
+
+DialogProvider* installed = nullptr;
+
+}  // namespace
+
+std::vector<TMsgDlgBtn> TMsgDlgButtons::List() const {
+  std::vector<TMsgDlgBtn> out;
+  for (int b = mbYes; b <= mbHelp; ++b) {
+    if (Contains(static_cast<TMsgDlgBtn>(b))) out.push_back(static_cast<TMsgDlgBtn>(b));
+  }
+  return out;
+}
+
+const char* ButtonName(TMsgDlgBtn button) {
+  static const char* const kNames[] = {"Yes",   "No",     "OK",  "Cancel",    "Abort",     "Retry",
+                                       "Ignore", "All", "No to All", "Yes to All", "Help"};
+  return kNames[button];
+}
+
+const char* KindName(TMsgDlgType kind) {
+  static const char* const kNames[] = {"Warning", "Error", "Information", "Confirm", ""};
+  return kNames[kind];
+}
+
+TMsgDlgBtn ConsoleDialogProvider::Show(const DialogRequest& request) {
+  std::string line = codepage::Utf8FromWide(request.caption);
+  if (const char* kind = KindName(request.kind); *kind != '\0') line += std::string(" (") + kind + ")";
+  line += ": " + codepage::Utf8FromWide(request.text) + " [";
+  bool first = true;
+  for (TMsgDlgBtn b : request.buttons.List()) {
+    line += (first ? "" : "/") + std::string(ButtonName(b));
+    first = false;
+  }
+  line += "]\n";
+  std::fwrite(line.data(), 1, line.size(), stderr);
+  std::fflush(stderr);
+  return request.defaultButton;
+}
+
+TMsgDlgBtn RecordingDialogProvider::Show(const DialogRequest& request) {
+  requests_.push_back(request);
+  if (answers_.empty()) return request.defaultButton;
+  TMsgDlgBtn answer = answers_.front();
+  answers_.pop_front();
+  return answer;
+}
+
+DialogProvider& Provider() {
+  static ConsoleDialogProvider console;
+  return installed != nullptr ? *installed : console;
+}
+
+DialogProvider* SetProvider(DialogProvider* provider) {
+  DialogProvider* previous = installed;
+  installed = provider;
+  return previous;
+}
+
+TMsgDlgBtn ShowDialog(const DialogRequest& request) { return Provider().Show(request); }
+
+}  // namespace mv::dialogs
