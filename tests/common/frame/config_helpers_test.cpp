@@ -1,0 +1,106 @@
+// Running numbers, grids and tuples over the system configuration file.
+#include "common/frame/config_helpers.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+
+#include "common/frame/shared_state.h"
+#include "common/validate/check_digits.h"
+#include "tests/support/installation.h"
+
+namespace mv {
+namespace {
+
+class ConfigHelpersTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ServerPath = install.ServerFolder() + "/";
+    Global_Merovan_Ini = "SEDIFSYS.INI";
+  }
+  std::string Ini() const { return install.Dir().Read("client/server/SEDIFSYS.INI"); }
+
+  test::TestInstallation install;
+};
+
+TEST_F(ConfigHelpersTest, TdecCounterIssuesPaddedBase36AndWritesBack) {
+  EXPECT_EQ(GetIniSeq("TDEC", "Seq"), "0002");
+  EXPECT_EQ(GetIniSeq("tdec", "Seq"), "0003");
+  EXPECT_EQ(Ini(), "[TDEC]\r\nSeq=3\r\n");
+  const std::pair<const char*, const char*> cases[] = {
+      {"34", "000Z"}, {"35", "0010"}, {"46655", "1000"}, {"1679615", "10000"}, {"-7", "0000"}};
+  for (const auto& [held, issued] : cases) {
+    install.WriteSystemIni(std::string("[TDEC]\nSeq=") + held + "\n");
+    EXPECT_EQ(GetIniSeq("TDEC", "Seq"), issued) << held;
+  }
+}
+
+TEST_F(ConfigHelpersTest, OtherSectionsGiveTheKeyTextOrErrorIni) {
+  install.WriteSystemIni("[Codes]\nPrefix=HK\n");
+  EXPECT_EQ(GetIniSeq("Codes", "Prefix"), "HK");
+  EXPECT_EQ(GetIniSeq("Codes", "Missing"), "ERRORINI");
+  EXPECT_EQ(GetIniSeq("Codes", ""), "ERRORINI");
+  EXPECT_EQ(Ini(), "[Codes]\nPrefix=HK\n");  // nothing written
+}
+
+TEST_F(ConfigHelpersTest, IntegerValuesAndSectionLists) {
+  install.WriteSystemIni("[N]\nA=12\nB=x\n");
+  EXPECT_EQ(GetIniIntegerValue("N", "A"), 12);
+  EXPECT_EQ(GetIniIntegerValue("N", "B"), 0);
+  SetIniIntegerValue("N", "C", -4);
+  EXPECT_EQ(GetIniIntegerValue("n", "c"), -4);
+  TStringList list{"old"};
+  LoadStringListFromIni("N", list);
+  EXPECT_EQ(list, (TStringList{"A=12", "B=x", "C=-4"}));
+}
+
+TEST(TupleTest, NamesValuesAndLists) {
+  EXPECT_EQ(TupleName("KEY=VALUE=X"), "KEY");
+  EXPECT_EQ(TupleValue("KEY=VALUE=X"), "VALUE=X");
+  EXPECT_EQ(TupleName("plain"), "plain");
+  EXPECT_EQ(TupleValue("plain"), "");
+  EXPECT_EQ(TupleValue("=v"), "v");
+  TStringList list{"a=1", "b", "c=", "=d"};
+  EXPECT_EQ(*StringListNames(list), (TStringList{"a", "b", "c", ""}));
+  GetStringListValue(list);
+  EXPECT_EQ(list, (TStringList{"1", "b", "", "d"}));
+}
+
+template <typename Text>
+struct FakeGrid : TGridCells<Text> {
+  void SetCell(int column, int row, const Text& text) override { cells[{column, row}] = text; }
+  void SetRowCount(int count) override { rows = count; }
+  std::map<std::pair<int, int>, Text> cells;
+  int rows = -1;
+};
+
+TEST(GetIniGrdTest, EveryItemNeedsItsComma) {
+  FakeGrid<std::string> grid;
+  GetIniGrd("A,B,", TStringList{"first"}, 2, 1, grid);
+  EXPECT_EQ(grid.cells, (std::map<std::pair<int, int>, std::string>{
+                            {{2, 1}, "A"}, {{3, 1}, "first"}, {{2, 2}, "B"}}));
+  EXPECT_EQ(grid.rows, 2);
+
+  FakeGrid<std::string> noComma;
+  GetIniGrd("A,B", TStringList{}, 0, 0, noComma);
+  EXPECT_EQ(noComma.cells.size(), 1u);
+  EXPECT_EQ(noComma.rows, 1);
+
+  FakeGrid<std::u16string> wide;
+  GetIniGrd(u"報關,,", std::vector<std::u16string>{u"x", u"y"}, 0, 0, wide);
+  EXPECT_EQ(wide.cells[std::pair(0, 0)], u"報關");
+  EXPECT_EQ(wide.cells[std::pair(0, 1)], u"");
+  EXPECT_EQ(wide.cells[std::pair(1, 1)], u"y");
+  EXPECT_EQ(wide.rows, 2);
+}
+
+TEST(Mod36Test, DigitsAndNegatives) {
+  EXPECT_EQ(mod36(0), "0");
+  EXPECT_EQ(mod36(35), "Z");
+  EXPECT_EQ(mod36(36), "10");
+  EXPECT_EQ(mod36(-1), "0");
+  EXPECT_EQ(mod36(1679616), "10000");
+}
+
+}  // namespace
+}  // namespace mv
