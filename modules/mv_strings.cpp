@@ -14,7 +14,9 @@ std::string _MV_LTrim(std::string_view s) {
   return begin == std::string_view::npos ? std::string() : std::string(s.substr(begin));
 }
 
-std::string _MV_AllTrim(std::string_view s) { return _MV_LTrim(_MV_RTrim(s)); }
+std::string _MV_AllTrim(std::string_view s) {
+  return _MV_LTrim(_MV_RTrim(s));
+}
 
 std::string _MV_PadL(std::string_view s, int width) {
   std::string out(s);

@@ -20,7 +20,7 @@ std::vector<TMsgDlgBtn> TMsgDlgButtons::List() const {
 }
 
 const char* ButtonName(TMsgDlgBtn button) {
-  static const char* const kNames[] = {"Yes",   "No",     "OK",  "Cancel",    "Abort",     "Retry",
+  static const char* const kNames[] = {"Yes",    "No",  "OK",        "Cancel",     "Abort", "Retry",
                                        "Ignore", "All", "No to All", "Yes to All", "Help"};
   return kNames[button];
 }
@@ -32,7 +32,8 @@ const char* KindName(TMsgDlgType kind) {
 
 TMsgDlgBtn ConsoleDialogProvider::Show(const DialogRequest& request) {
   std::string line = codepage::Utf8FromWide(request.caption);
-  if (const char* kind = KindName(request.kind); *kind != '\0') line += std::string(" (") + kind + ")";
+  if (const char* kind = KindName(request.kind); *kind != '\0')
+    line += std::string(" (") + kind + ")";
   line += ": " + codepage::Utf8FromWide(request.text) + " [";
   bool first = true;
   for (TMsgDlgBtn b : request.buttons.List()) {
@@ -64,6 +65,8 @@ DialogProvider* SetProvider(DialogProvider* provider) {
   return previous;
 }
 
-TMsgDlgBtn ShowDialog(const DialogRequest& request) { return Provider().Show(request); }
+TMsgDlgBtn ShowDialog(const DialogRequest& request) {
+  return Provider().Show(request);
+}
 
 }  // namespace mv::dialogs

@@ -45,6 +45,8 @@ void FreeModule(ModuleHandle module) {
   if (module != 0) ::dlclose(reinterpret_cast<void*>(module));
 }
 
-std::string LastModuleError() { return lastError; }
+std::string LastModuleError() {
+  return lastError;
+}
 
 }  // namespace mv::modules

@@ -41,7 +41,9 @@ std::string ApplicationTitle() {
   return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
 }
 
-void SetApplicationTitle(std::string title) { TitleOverride() = std::move(title); }
+void SetApplicationTitle(std::string title) {
+  TitleOverride() = std::move(title);
+}
 
 void TerminateProcess(int exitCode) {
   std::fflush(stdout);
