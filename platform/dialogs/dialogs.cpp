@@ -46,6 +46,38 @@ TMsgDlgBtn ConsoleDialogProvider::Show(const DialogRequest& request) {
   return request.defaultButton;
 }
 
+std::unique_ptr<TMsgDialog> ConsoleDialogProvider::Create(const DialogRequest& request) {
+  return std::make_unique<TProviderMsgDialog>(*this, request);
+}
+
+bool ConsoleDialogProvider::InputQuery(InputQueryRequest& request) {
+  std::string line = codepage::Utf8FromWide(request.caption) + ": " +
+                     codepage::Utf8FromWide(request.prompt) + " [" +
+                     codepage::Utf8FromWide(request.value) + "] [OK/Cancel]\n";
+  std::fwrite(line.data(), 1, line.size(), stderr);
+  std::fflush(stderr);
+  return false;
+}
+
+void TProviderMsgDialog::ScaleBy(int numerator, int denominator) {
+  if (numerator <= 0 || denominator <= 0) return;
+  numerator_ *= numerator;
+  denominator_ *= denominator;
+}
+
+std::unique_ptr<TMsgDialog> RecordingDialogProvider::Create(const DialogRequest& request) {
+  return std::make_unique<TProviderMsgDialog>(*this, request);
+}
+
+bool RecordingDialogProvider::InputQuery(InputQueryRequest& request) {
+  inputRequests_.push_back(request);
+  if (inputs_.empty()) return false;
+  auto [accept, value] = std::move(inputs_.front());
+  inputs_.pop_front();
+  if (accept) request.value = std::move(value);
+  return accept;
+}
+
 TMsgDlgBtn RecordingDialogProvider::Show(const DialogRequest& request) {
   requests_.push_back(request);
   if (answers_.empty()) return request.defaultButton;

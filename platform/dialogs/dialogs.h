@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -61,30 +62,97 @@ struct DialogRequest {
   TMsgDlgBtn defaultButton = mbOK;
 };
 
+// A question for one line of text. `value` is the text shown first and, when the user accepts,
+// the text entered; at most `maxLength` characters can be entered (0 = no limit).
+struct InputQueryRequest {
+  std::u16string caption;
+  std::u16string prompt;
+  std::u16string value;
+  int maxLength = 0;
+};
+
+// A message dialog that has been made but not shown: the caller may scale it, then show it.
+class TMsgDialog {
+ public:
+  virtual ~TMsgDialog() = default;
+  // What the dialog will show.
+  virtual const DialogRequest& Request() const = 0;
+  // Scales the dialog's size and fonts by numerator / denominator (96 -> screen DPI).
+  virtual void ScaleBy(int numerator, int denominator) = 0;
+  // Shows the dialog modally and returns the button that closed it.
+  virtual TMsgDlgBtn ShowModal() = 0;
+};
+
 class DialogProvider {
  public:
   virtual ~DialogProvider() = default;
   // Shows the box modally and returns the button that closed it.
   virtual TMsgDlgBtn Show(const DialogRequest& request) = 0;
+  // Makes the box without showing it.
+  virtual std::unique_ptr<TMsgDialog> Create(const DialogRequest& request) = 0;
+  // Asks for one line of text; true (and `request.value` set) when the user accepts.
+  virtual bool InputQuery(InputQueryRequest& request) = 0;
+  // Dots per inch of the screen the dialogs appear on.
+  virtual int ScreenDpi() const { return 96; }
 };
 
-// Writes "caption: text [buttons]" in UTF-8 to standard error and answers the default button.
+// Writes "caption: text [buttons]" in UTF-8 to standard error and answers the default button;
+// an input query is written the same way and answered with "cancel" (false, value unchanged).
 class ConsoleDialogProvider : public DialogProvider {
  public:
   TMsgDlgBtn Show(const DialogRequest& request) override;
+  std::unique_ptr<TMsgDialog> Create(const DialogRequest& request) override;
+  bool InputQuery(InputQueryRequest& request) override;
 };
 
-// Keeps every request; answers with queued answers first, then with the default button.
+// Keeps every request; answers with queued answers first, then with the default button. Input
+// queries are kept too and answered from their own queue (nothing queued: cancel). Dialogs made
+// by Create are recorded when they are shown, with the scale last applied.
 class RecordingDialogProvider : public DialogProvider {
  public:
   TMsgDlgBtn Show(const DialogRequest& request) override;
+  std::unique_ptr<TMsgDialog> Create(const DialogRequest& request) override;
+  bool InputQuery(InputQueryRequest& request) override;
+
   void QueueAnswer(TMsgDlgBtn answer) { answers_.push_back(answer); }
+  // The next input query is accepted with `value` (or cancelled when `accept` is false).
+  void QueueInput(bool accept, std::u16string value = {}) {
+    inputs_.emplace_back(accept, std::move(value));
+  }
   const std::vector<DialogRequest>& Requests() const { return requests_; }
-  void Clear() { requests_.clear(); }
+  const std::vector<InputQueryRequest>& InputRequests() const { return inputRequests_; }
+  void Clear() {
+    requests_.clear();
+    inputRequests_.clear();
+  }
+  void SetScreenDpi(int dpi) { dpi_ = dpi; }
+  int ScreenDpi() const override { return dpi_; }
 
  private:
   std::vector<DialogRequest> requests_;
   std::deque<TMsgDlgBtn> answers_;
+  std::vector<InputQueryRequest> inputRequests_;
+  std::deque<std::pair<bool, std::u16string>> inputs_;
+  int dpi_ = 96;
+};
+
+// A dialog made by a provider that has no forms of its own: showing it asks the provider.
+class TProviderMsgDialog : public TMsgDialog {
+ public:
+  TProviderMsgDialog(DialogProvider& provider, DialogRequest request)
+      : provider_(provider), request_(std::move(request)) {}
+  const DialogRequest& Request() const override { return request_; }
+  void ScaleBy(int numerator, int denominator) override;
+  TMsgDlgBtn ShowModal() override { return provider_.Show(request_); }
+  // The scale applied so far, as numerator / denominator (1 / 1 at first).
+  int ScaleNumerator() const { return numerator_; }
+  int ScaleDenominator() const { return denominator_; }
+
+ private:
+  DialogProvider& provider_;
+  DialogRequest request_;
+  int numerator_ = 1;
+  int denominator_ = 1;
 };
 
 // The provider in use (the console provider until a host installs another).
