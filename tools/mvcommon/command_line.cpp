@@ -1,0 +1,56 @@
+#include "tools/mvcommon/command_line.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "common/frame/startup.h"
+
+namespace mv::cli {
+
+std::optional<std::string> ParsedArgs::Option(std::string_view name) const {
+  auto it = options.find(name);
+  if (it == options.end()) return std::nullopt;
+  return it->second;
+}
+
+ParsedArgs ParseArgs(std::span<char* const> args, std::span<const std::string_view> valued) {
+  ParsedArgs parsed;
+  bool optionsEnded = false;
+  for (size_t i = 0; i < args.size(); ++i) {
+    std::string_view word = args[i];
+    if (optionsEnded || word.size() < 2 || word[0] != '-') {
+      parsed.positionals.emplace_back(word);
+    } else if (word == "--") {
+      optionsEnded = true;
+    } else if (word == "--help" || word == "-h") {
+      parsed.help = true;
+    } else {
+      std::string_view name = word.starts_with("--") ? word.substr(2) : std::string_view();
+      std::optional<std::string_view> value;
+      if (size_t equals = name.find('='); equals != std::string_view::npos) {
+        value = name.substr(equals + 1);
+        name = name.substr(0, equals);
+      }
+      if (name.empty() || std::find(valued.begin(), valued.end(), name) == valued.end()) {
+        throw UsageError("unknown option \"" + std::string(word) + "\"");
+      }
+      if (!value) {
+        if (i + 1 == args.size())
+          throw UsageError("option --" + std::string(name) + " needs a value");
+        value = args[++i];
+      }
+      parsed.options.insert_or_assign(std::string(name), std::string(*value));
+    }
+  }
+  return parsed;
+}
+
+void UseInstallationOptions(const ParsedArgs& args) {
+  if (auto machineDir = args.Option("machine-dir")) {
+    ::setenv("MV_MACHINE_DIR", machineDir->c_str(), 1);
+    ::unsetenv("MV_REGISTRY");
+  }
+  if (auto serverPath = args.Option("server-path")) SetServerPathOverride(*serverPath);
+}
+
+}  // namespace mv::cli
