@@ -1,0 +1,54 @@
+#include "modules/mv_text_units.h"
+
+#include <algorithm>
+
+#include "platform/codepage/codepage.h"
+#include "platform/codepage/narrow_chars.h"
+
+namespace mv::modules::detail {
+namespace {
+
+bool IsHighSurrogate(char16_t c) {
+  return c >= 0xD800 && c <= 0xDBFF;
+}
+bool IsLowSurrogate(char16_t c) {
+  return c >= 0xDC00 && c <= 0xDFFF;
+}
+
+}  // namespace
+
+std::u16string Widen(std::string_view s) {
+  return codepage::ToWide(s, codepage::UserCodePage());
+}
+
+std::string Narrow(std::u16string_view s) {
+  return codepage::FromWide(s, codepage::UserCodePage());
+}
+
+bool TCharIndex::IsBoundary(size_t at) const {
+  return at == size || std::binary_search(starts.begin(), starts.end(), at);
+}
+
+TCharIndex IndexOf(std::string_view s) {
+  return {codepage::CharStarts(s, codepage::UserCodePage()), s.size()};
+}
+
+TCharIndex IndexOf(std::u16string_view s) {
+  TCharIndex index{{}, s.size()};
+  index.starts.reserve(s.size());
+  for (size_t i = 0; i < s.size(); ++i) {
+    index.starts.push_back(i);
+    if (IsHighSurrogate(s[i]) && i + 1 < s.size() && IsLowSurrogate(s[i + 1])) ++i;
+  }
+  return index;
+}
+
+char32_t CodePointAt(std::u16string_view s, size_t i) {
+  char16_t c = s[i];
+  if (IsHighSurrogate(c) && i + 1 < s.size() && IsLowSurrogate(s[i + 1])) {
+    return 0x10000 + ((static_cast<char32_t>(c) - 0xD800) << 10) + (s[i + 1] - 0xDC00);
+  }
+  return c;
+}
+
+}  // namespace mv::modules::detail
