@@ -3,28 +3,23 @@
 #include <unicode/ucnv.h>
 #include <unicode/ustring.h>
 
-#include <memory>
+#include <climits>
+#include <cstdint>
 
+#include "platform/codepage/converter_cache.h"
 #include "platform/codepage/locale_codepage.h"
 
 namespace mv::codepage {
 namespace {
 
-struct ConverterCloser {
-  void operator()(UConverter* c) const { ucnv_close(c); }
-};
-using ConverterPtr = std::unique_ptr<UConverter, ConverterCloser>;
+int32_t CheckedLength(size_t size) {
+  if (size > static_cast<size_t>(INT32_MAX)) throw ECodePageError("text too long to convert");
+  return static_cast<int32_t>(size);
+}
 
-ConverterPtr OpenConverter(int codePage) {
-  std::string name = ConverterName(codePage);
-  if (name.empty()) throw ECodePageError("unknown code page " + std::to_string(codePage));
-  UErrorCode status = U_ZERO_ERROR;
-  ConverterPtr conv(ucnv_open(name.c_str(), &status));
-  if (U_FAILURE(status)) {
-    throw ECodePageError("no converter for code page " + std::to_string(codePage) + ": " +
-                         u_errorName(status));
-  }
-  return conv;
+void ThrowIfFailed(UErrorCode status) {
+  if (U_FAILURE(status))
+    throw ECodePageError(std::string("conversion failed: ") + u_errorName(status));
 }
 
 }  // namespace
@@ -82,30 +77,52 @@ int UserCodePage() {
 
 std::u16string ToWide(std::string_view text, int codePage) {
   if (text.empty()) return {};
-  ConverterPtr conv = OpenConverter(codePage);
-  std::u16string out(text.size() * 2 + 2, u'\0');
+  UConverter* conv = CachedConverter(codePage, ConverterUse::kSubstitute);
+  const int32_t length = CheckedLength(text.size());
+  // Every converter of the table gives at most one UTF-16 unit per byte; the retry covers any
+  // that would not.
+  std::u16string out(text.size() + 1, u'\0');
   UErrorCode status = U_ZERO_ERROR;
-  int32_t n = ucnv_toUChars(conv.get(), out.data(), static_cast<int32_t>(out.size()), text.data(),
-                            static_cast<int32_t>(text.size()), &status);
-  if (U_FAILURE(status))
-    throw ECodePageError(std::string("conversion failed: ") + u_errorName(status));
+  int32_t n = ucnv_toUChars(conv, out.data(), static_cast<int32_t>(out.size()), text.data(), length,
+                            &status);
+  if (status == U_BUFFER_OVERFLOW_ERROR) {
+    out.assign(static_cast<size_t>(n) + 1, u'\0');
+    status = U_ZERO_ERROR;
+    n = ucnv_toUChars(conv, out.data(), static_cast<int32_t>(out.size()), text.data(), length,
+                      &status);
+  }
+  ThrowIfFailed(status);
   out.resize(static_cast<size_t>(n));
   return out;
 }
 
 std::string FromWide(std::u16string_view text, int codePage) {
   if (text.empty()) return {};
-  ConverterPtr conv = OpenConverter(codePage);
+  UConverter* conv = CachedConverter(codePage, ConverterUse::kSubstitute);
+  const int32_t length = CheckedLength(text.size());
+  std::string out(
+      static_cast<size_t>(UCNV_GET_MAX_BYTES_FOR_STRING(length, ucnv_getMaxCharSize(conv))), '\0');
   UErrorCode status = U_ZERO_ERROR;
-  ucnv_setSubstChars(conv.get(), "?", 1, &status);
-  status = U_ZERO_ERROR;
-  std::string out(text.size() * 4 + 4, '\0');
-  int32_t n = ucnv_fromUChars(conv.get(), out.data(), static_cast<int32_t>(out.size()), text.data(),
-                              static_cast<int32_t>(text.size()), &status);
-  if (U_FAILURE(status))
-    throw ECodePageError(std::string("conversion failed: ") + u_errorName(status));
+  int32_t n =
+      ucnv_fromUChars(conv, out.data(), CheckedLength(out.size()), text.data(), length, &status);
+  ThrowIfFailed(status);
   out.resize(static_cast<size_t>(n));
   return out;
+}
+
+bool IsMappable(std::u16string_view text, int codePage) {
+  UConverter* conv = CachedConverter(codePage, ConverterUse::kStrict);
+  ucnv_resetFromUnicode(conv);
+  const UChar* source = text.data();
+  const UChar* sourceEnd = source + CheckedLength(text.size());
+  char scratch[1024];
+  for (;;) {
+    char* target = scratch;
+    UErrorCode status = U_ZERO_ERROR;
+    ucnv_fromUnicode(conv, &target, scratch + sizeof scratch, &source, sourceEnd, nullptr, true,
+                     &status);
+    if (status != U_BUFFER_OVERFLOW_ERROR) return U_SUCCESS(status);
+  }
 }
 
 std::string Convert(std::string_view text, int fromCodePage, int toCodePage) {

@@ -1,5 +1,6 @@
 // Conversions between narrow text (bytes in a Windows code page) and wide text (UTF-16), and the
 // machine's code pages. ICU does every conversion; code pages are Windows code-page numbers.
+// Each thread keeps the converters it has opened, so repeated conversions cost no set-up.
 #pragma once
 
 #include <cstdint>
@@ -37,9 +38,18 @@ int UserCodePage();
 // Throws ECodePageError for an unknown code page.
 std::u16string ToWide(std::string_view text, int codePage);
 
-// Narrow text in `codePage` of wide text. Characters the code page cannot hold become "?".
+// Narrow text in `codePage` of wide text. Characters the code page cannot hold become "?";
+// default-ignorable ones it lacks (variation selectors, joiners) are dropped.
 // Throws ECodePageError for an unknown code page.
 std::string FromWide(std::u16string_view text, int codePage);
+
+// True when every character of `text` has an exact mapping to `codePage`, so that FromWide
+// substitutes or drops nothing and the result converts back to `text`; a conversion callback that
+// stops at the first loss decides, not a round trip. Characters the code page holds only as a best
+// fit, default-ignorable characters it lacks (variation selectors, which FromWide drops) and
+// unpaired surrogates are not mappable. Empty text is mappable.
+// Throws ECodePageError for an unknown code page.
+bool IsMappable(std::u16string_view text, int codePage);
 
 // Narrow text moved from one code page to another (through UTF-16); returns `text` unchanged when
 // both are the same.

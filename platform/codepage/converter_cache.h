@@ -1,0 +1,20 @@
+// Open ICU converters kept for the calling thread, one per code page and use, so that a conversion
+// does not pay for opening a converter each time. Private to platform/codepage.
+#pragma once
+
+struct UConverter;
+
+namespace mv::codepage {
+
+enum class ConverterUse {
+  kSubstitute,  // narrow -> wide gives U+FFFD, wide -> narrow gives "?" for what does not map
+  kStrict,      // wide -> narrow stops at the first character that does not map
+};
+
+// The calling thread's converter for `codePage` and `use`, opened on first use and kept until the
+// thread ends. Its state between calls is undefined: callers reset the direction they use (the
+// ucnv_toUChars / ucnv_fromUChars calls do that themselves). Throws ECodePageError for a code page
+// that no converter serves.
+UConverter* CachedConverter(int codePage, ConverterUse use);
+
+}  // namespace mv::codepage

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "platform/codepage/codepage.h"
+#include "platform/codepage/simplified.h"
+
+namespace mv::codepage {
+namespace {
+
+bool IsOneCodePoint(const std::u16string& w) {
+  if (w.size() == 1) return w[0] != u'\uFFFD' && (w[0] < 0xD800 || w[0] > 0xDFFF);
+  return w.size() == 2 && w[0] >= 0xD800 && w[0] <= 0xDBFF && w[1] >= 0xDC00 && w[1] <= 0xDFFF;
+}
+
+struct Repertoire {
+  std::string canonical;  // every pair that comes back as itself, one after the other
+  int mapped = 0;
+  int privateUse = 0;
+  int duplicates = 0;  // second encodings of a character: they come back as its first encoding
+};
+
+// Converts every lead/trail pair of a double-byte code page to wide text and back.
+Repertoire RoundTripEveryPair(int codePage) {
+  Repertoire r;
+  for (int lead = 0x81; lead <= 0xFE; ++lead) {
+    for (int trail = 0x40; trail <= 0xFE; ++trail) {
+      const std::string pair{static_cast<char>(lead), static_cast<char>(trail)};
+      const std::u16string wide = ToWide(pair, codePage);
+      if (!IsOneCodePoint(wide)) continue;
+      ++r.mapped;
+      if (wide[0] >= 0xE000 && wide[0] <= 0xF8FF) ++r.privateUse;
+      const std::string back = FromWide(wide, codePage);
+      if (back == pair) {
+        r.canonical += pair;
+        continue;
+      }
+      ++r.duplicates;
+      EXPECT_EQ(back.size(), 2u) << std::hex << lead << trail;
+      EXPECT_EQ(ToWide(back, codePage), wide) << std::hex << lead << trail;
+    }
+  }
+  return r;
+}
+
+TEST(CodePageRoundTrip, EveryBig5AndUserDefinedCharacterOfCodePage950) {
+  const Repertoire r = RoundTripEveryPair(kBig5);
+  // Big5 proper (13,000-odd characters and symbols) and the user-defined area, where Hong Kong
+  // installations keep their HKSCS characters as private-use code points.
+  EXPECT_GT(r.mapped - r.privateUse, 13000);
+  EXPECT_GT(r.privateUse, 6000);
+  EXPECT_LE(r.duplicates, 16);  // a few box-drawing and numeral characters have two encodings
+  EXPECT_EQ(FromWide(ToWide(r.canonical, kBig5), kBig5), r.canonical);
+}
+
+TEST(CodePageRoundTrip, EveryGbkCharacterOfCodePage936) {
+  const Repertoire r = RoundTripEveryPair(kGbk);
+  EXPECT_GT(r.mapped, 21000);
+  EXPECT_LE(r.duplicates, 16);
+  EXPECT_EQ(FromWide(ToWide(r.canonical, kGbk), kGbk), r.canonical);
+}
+
+TEST(CodePageConversion, BadInputAndUnknownCodePages) {
+  EXPECT_EQ(ToWide("\xB3\xF8\xC3\xF6", kBig5), u"報關");
+  EXPECT_EQ(ToWide("A\xB3", kBig5), u"A\uFFFD");  // a lead byte cut off at the end
+  EXPECT_EQ(FromWide(u"報\U0001F600關", kBig5), "\xB3\xF8?\xC3\xF6");
+  EXPECT_EQ(FromWide(u"\xD800", kUtf8), "?");  // unpaired surrogate
+  EXPECT_EQ(ToWide("", 12345), u"");
+  EXPECT_THROW(ToWide("A", 12345), ECodePageError);
+  EXPECT_THROW(FromWide(u"A", 12345), ECodePageError);
+  EXPECT_THROW(IsMappable(u"A", 12345), ECodePageError);
+  const std::string longText(100000, 'x');  // longer than any scratch buffer
+  EXPECT_EQ(FromWide(ToWide(longText, kWestern), kWestern), longText);
+}
+
+TEST(CodePageConversion, MappableOnlyWithoutSubstitution) {
+  EXPECT_TRUE(IsMappable(u"報關資料 ABC ?", kBig5));
+  EXPECT_TRUE(IsMappable(u"", kBig5));
+  EXPECT_FALSE(IsMappable(u"報關\U0001F600", kBig5));
+  EXPECT_FALSE(IsMappable(u"报关", kBig5));  // Simplified forms are not in Big5
+  EXPECT_TRUE(IsMappable(u"报关", kGbk));
+  EXPECT_TRUE(IsMappable(u"\U0001F600", kUtf8));
+  EXPECT_FALSE(IsMappable(u"A\xDC00", kUtf8));
+  EXPECT_FALSE(IsMappable(std::u16string(5000, u'A') + u"\U0001F600", kWestern));
+  EXPECT_TRUE(IsMappable(u"Café", kWestern));
+  EXPECT_FALSE(IsMappable(u"A\uFE00", kBig5));  // a variation selector would be dropped
+  EXPECT_EQ(FromWide(u"A\uFE00", kBig5), "A");
+}
+
+TEST(Simplified, TraditionalWordsBecomeSimplified) {
+  EXPECT_EQ(ToSimplified(u"報關"), u"报关");
+  EXPECT_EQ(ToSimplified(u"資料"), u"资料");
+  EXPECT_EQ(ToSimplified(u"臺灣 發票 ABC 123"), u"台湾 发票 ABC 123");
+  EXPECT_EQ(ToSimplified(u""), u"");
+  // Big5 bytes of 報關資料 -> GBK bytes of 报关资料; a byte Big5 does not map becomes "?".
+  EXPECT_EQ(Big5ToGbk("\xB3\xF8\xC3\xF6\xB8\xEA\xAE\xC6 A"), "\xB1\xA8\xB9\xD8\xD7\xCA\xC1\xCF A");
+  EXPECT_EQ(Big5ToGbk("A\xB3"), "A?");
+}
+
+}  // namespace
+}  // namespace mv::codepage
