@@ -1,0 +1,13 @@
+// The Qt font of a FontSpec.
+#pragma once
+
+#include <QFont>
+
+#include "platform/qt/text_wrapping.h"
+
+namespace mv::qt {
+
+// A QFont of the spec's family at its point size (the application font's size when 0 or less).
+QFont ToQFont(const FontSpec& spec);
+
+}  // namespace mv::qt
