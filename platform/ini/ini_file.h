@@ -4,16 +4,19 @@
 //  - lines end at CR, LF or CR LF; blanks around a line are dropped; blank lines are ignored;
 //  - "[name]" opens a section (text after "]" is ignored; a missing "]" still opens one);
 //  - "key = value" splits at the first "="; the name is right-trimmed, the value left-trimmed;
-//  - section and key names match without regard to ASCII case; values keep their case;
+//  - section and key names match without regard to ASCII case (the second byte of a Big5 or GBK
+//    character is never taken for a letter or a "]"); values keep their case;
 //  - one pair of matching outer quotes ("..." or '...') is removed from a value;
 //  - a line starting with ";" is a comment; lines without "=" are neither found nor listed;
 //  - the first of duplicate sections / keys wins;
 //  - a UTF-16LE file (with its BOM) is read as UTF-16, anything else as bytes in the system code
 //    page (a UTF-8 BOM is skipped);
 //  - a missing file is an empty file; a malformed line never throws.
-// The file is parsed once, when the object is made; every read answers from memory. A write edits
-// the in-memory lines in place (keeping comments, odd lines and their order), then replaces the
-// file atomically, with CR LF line ends, in the encoding the file had.
+// The file is parsed once, when the object is made; every read answers from memory through a
+// case-insensitive hash index. A write edits the object's lines in place (keeping comments, odd
+// lines and their order), replaces the file atomically, with CR LF line ends, in the encoding the
+// file had (UTF-16LE with its mark; otherwise the bytes as they were, a UTF-8 mark kept), and then
+// reads from what it wrote. Lines another process wrote after the object was made are not merged.
 #pragma once
 
 #include <cstdint>
@@ -40,45 +43,67 @@ class TIniFile {
  public:
   // Opens and parses `fileName`. A name without a folder is looked up in the machine folder (the
   // place of the per-machine "WIN.INI"). The file name is matched without regard to case inside
-  // its folder.
+  // its folder. A missing file reads as empty. A file that is there but cannot be read also reads
+  // as empty, and the writers refuse to replace it. Never throws for the file's content.
   explicit TIniFile(const std::string& fileName);
   ~TIniFile();
   TIniFile(const TIniFile&) = delete;
   TIniFile& operator=(const TIniFile&) = delete;
 
-  // The path the object reads and writes.
+  // The path the object reads and writes (the folder's spelling of the name when one matched).
   const std::string& FileName() const;
 
-  // The value of `key` in `section` (outer quotes removed, at most kMaxValueLength characters),
-  // or `defaultValue` when the section or key is missing.
+  // The value of `key` in `section` (outer quotes removed), or `defaultValue` as given when the
+  // section or key is missing. Only the first section of a name is searched, and the first key of
+  // a name in it is found. Section and key names lose surrounding spaces (not tabs). The value is
+  // cut to kMaxValueLength characters: bytes of a file in the system code page (never ending
+  // inside a double-byte character), UTF-16 units of a UTF-16 file (then converted).
   std::string ReadString(std::string_view section, std::string_view key,
                          std::string_view defaultValue) const;
-  // Decimal or hexadecimal ("0x" / "$" prefix) 32-bit integer; anything else gives the default.
+  // Optional sign, then decimal that fits a signed 32-bit integer, or hexadecimal behind "0x",
+  // "0X" or "$" of at most 32 bits ("$FFFFFFFF" is -1). Blanks inside, other characters, an
+  // empty value and overflow give the default.
   int32_t ReadInteger(std::string_view section, std::string_view key, int32_t defaultValue) const;
   // ReadInteger(key, default ? 1 : 0) != 0.
   bool ReadBool(std::string_view section, std::string_view key, bool defaultValue) const;
-  // Optional sign, digits with "." as decimal point, optional exponent; else the default.
+  // Optional sign, digits with "." as decimal point whatever the C locale, optional exponent;
+  // anything else (and a value beyond the range of double) gives the default.
   double ReadFloat(std::string_view section, std::string_view key, double defaultValue) const;
 
-  // Key names of `section`, in file order (duplicates listed as often as they stand).
+  // Key names of `section` as the file spells them, in file order (duplicates listed as often as
+  // they stand; lines without "=" and comments are not keys). Empty when the section is missing.
   std::vector<std::string> ReadSection(std::string_view section) const;
-  // "key=value" for every key of `section`, the value as ReadString gives it.
+  // "key=value" for every key of `section`, the value as ReadString gives it (so a duplicate key
+  // shows the first value twice).
   std::vector<std::string> ReadSectionValues(std::string_view section) const;
-  // Names of every section, in file order.
+  // Names of every section header, in file order (duplicates and the empty name included).
   std::vector<std::string> ReadSections() const;
+  // True when `section` has at least one key: as in the client's INI class, a header alone does
+  // not make a section exist.
   bool SectionExists(std::string_view section) const;
+  // True when ReadString finds `key` in `section`.
   bool ValueExists(std::string_view section, std::string_view key) const;
 
-  // Writers: change the lines in memory and replace the file at once. Throw EIniFileException
-  // when the file cannot be written.
+  // Writers: change the lines in memory and replace the file at once; a missing file is made.
+  // Throw EIniFileException, naming the file, when it cannot be written (a missing folder among
+  // the causes); the object then stays as it was.
+  // An existing key gets "name=value" in its own line, keeping the file's spelling of the name; a
+  // new key goes after the last key of the first section of that name, a new section ("[name]"
+  // and the key) at the end. Names lose surrounding spaces; the value is written as given (no
+  // trimming, no quotes; a CR or LF in it ends the line there).
   void WriteString(std::string_view section, std::string_view key, std::string_view value);
   void WriteInteger(std::string_view section, std::string_view key, int32_t value);
+  // Writes "1" or "0".
   void WriteBool(std::string_view section, std::string_view key, bool value);
+  // Removes the line of the key ReadString finds (a later duplicate then shows). Writes nothing
+  // when there is no such key.
   void DeleteKey(std::string_view section, std::string_view key);
-  // Removes the section header and its keys; comment lines inside it stay.
+  // Removes the header, the keys and the other non-comment lines of every section of that name;
+  // comment and blank lines inside stay. Writes nothing when there is no such section.
   void EraseSection(std::string_view section);
 
-  // How many times files were parsed by TIniFile objects in this process (for benchmarks).
+  // How many times files were parsed by TIniFile objects in this process: once per object made,
+  // whatever it reads or writes afterwards (for benchmarks).
   static uint64_t ParseCount();
 
  private:

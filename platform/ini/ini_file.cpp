@@ -1,0 +1,259 @@
+#include "platform/ini/ini_file.h"
+
+#include <atomic>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <variant>
+
+#include "platform/codepage/codepage.h"
+#include "platform/ini/ini_document.h"
+#include "platform/ini/ini_encoding.h"
+#include "platform/ini/ini_lead_bytes.h"
+#include "platform/ini/ini_numbers.h"
+#include "platform/system/machine.h"
+
+namespace mv::ini {
+namespace {
+
+using detail::TIniDocument;
+using detail::TIniEncoding;
+
+std::atomic<uint64_t> parseCount{0};
+
+// A name without a folder lives in the machine folder; the last part matches without regard to
+// case.
+std::string FullFileName(const std::string& fileName) {
+  if (fileName.find(files::kPathDelim) != std::string::npos) {
+    return files::ResolveFileName(fileName);
+  }
+  return files::ResolveFileName(files::IncludeTrailingDelimiter(sys::MachineFolder()) + fileName);
+}
+
+// Narrow text of the API in the form of the file's text: the bytes themselves for a file in the
+// system code page, UTF-16 for a UTF-16 file.
+template <typename CharT>
+auto Native(std::string_view text, int codePage) {
+  if constexpr (std::is_same_v<CharT, char>) {
+    return text;
+  } else {
+    return codepage::ToWide(text, codePage);
+  }
+}
+
+template <typename CharT>
+std::string Narrow(std::basic_string_view<CharT> text, int codePage) {
+  if constexpr (std::is_same_v<CharT, char>) {
+    return std::string(text);
+  } else {
+    return codepage::FromWide(text, codePage);
+  }
+}
+
+using TDocument = std::variant<TIniDocument<char>, TIniDocument<char16_t>>;
+
+// A value as ReadString gives it: cut to kMaxValueLength units, never inside a character.
+template <typename CharT>
+std::basic_string_view<CharT> AsRead(const TIniDocument<CharT>& doc,
+                                     std::basic_string_view<CharT> value) {
+  return detail::CutAt(value, kMaxValueLength, doc.Lead());
+}
+
+}  // namespace
+
+struct TIniFile::Impl {
+  std::string fileName;
+  // The system code page when the file was opened: the narrow API's texts are in it.
+  int codePage = codepage::kWestern;
+  TIniEncoding encoding = TIniEncoding::kAnsi;
+  // The file is there but could not be read: writing our (empty) lines would wipe it.
+  bool unreadable = false;
+  TDocument document;
+
+  Impl(std::string name, int page, TIniEncoding enc, bool notRead, TDocument doc)
+      : fileName(std::move(name)),
+        codePage(page),
+        encoding(enc),
+        unreadable(notRead),
+        document(std::move(doc)) {}
+
+  // The file's bytes for `text`, in the encoding the file had.
+  std::string Bytes(std::string_view text) const {
+    return std::string(detail::ByteOrderMark(encoding)) + std::string(text);
+  }
+  std::string Bytes(std::u16string_view text) const {
+    return std::string(detail::ByteOrderMark(encoding)) + detail::LittleEndianFromUtf16(text);
+  }
+
+  // Replaces the file with `text`; once it holds it, the object reads the new text. A failed
+  // write leaves the object as it was.
+  template <typename CharT>
+  void Store(TIniDocument<CharT>& doc, std::optional<std::basic_string<CharT>> text) {
+    if (!text) return;
+    if (unreadable) throw EIniFileException("Unable to read " + fileName + ", not written");
+    try {
+      files::ReplaceFileAtomically(fileName, Bytes(*text));
+    } catch (const files::EFileError& error) {
+      throw EIniFileException(error.what());
+    }
+    doc = TIniDocument<CharT>(std::move(*text), doc.Lead());
+  }
+};
+
+TIniFile::TIniFile(const std::string& fileName) {
+  std::string path = FullFileName(fileName);
+  int codePage = codepage::SystemCodePage();
+  // A code page no converter serves would make every UTF-16 look-up fail; read as Western then.
+  if (codepage::ConverterName(codePage).empty()) codePage = codepage::kWestern;
+  std::optional<std::string> read = files::ReadWholeFile(path);
+  bool unreadable = !read && files::FileExists(path);
+  std::string bytes = std::move(read).value_or(std::string());
+  ++parseCount;
+  TIniEncoding encoding = detail::DetectEncoding(bytes);
+  bytes.erase(0, detail::ByteOrderMark(encoding).size());
+  TDocument document =
+      encoding == TIniEncoding::kUtf16Le
+          ? TDocument(TIniDocument<char16_t>(detail::Utf16FromLittleEndian(bytes), nullptr))
+          : TDocument(TIniDocument<char>(std::move(bytes), detail::LeadBytesOf(codePage)));
+  impl_ =
+      std::make_unique<Impl>(std::move(path), codePage, encoding, unreadable, std::move(document));
+}
+
+TIniFile::~TIniFile() = default;
+
+const std::string& TIniFile::FileName() const {
+  return impl_->fileName;
+}
+
+std::string TIniFile::ReadString(std::string_view section, std::string_view key,
+                                 std::string_view defaultValue) const {
+  return std::visit(
+      [&](const auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        int page = impl_->codePage;
+        auto value = doc.Value(Native<CharT>(section, page), Native<CharT>(key, page));
+        return value ? Narrow<CharT>(AsRead(doc, *value), page) : std::string(defaultValue);
+      },
+      impl_->document);
+}
+
+int32_t TIniFile::ReadInteger(std::string_view section, std::string_view key,
+                              int32_t defaultValue) const {
+  return detail::ParseInteger(ReadString(section, key, {})).value_or(defaultValue);
+}
+
+bool TIniFile::ReadBool(std::string_view section, std::string_view key, bool defaultValue) const {
+  return ReadInteger(section, key, defaultValue ? 1 : 0) != 0;
+}
+
+double TIniFile::ReadFloat(std::string_view section, std::string_view key,
+                           double defaultValue) const {
+  return detail::ParseFloat(ReadString(section, key, {})).value_or(defaultValue);
+}
+
+std::vector<std::string> TIniFile::ReadSection(std::string_view section) const {
+  return std::visit(
+      [&](const auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        std::vector<std::string> names;
+        for (auto name : doc.KeyNames(Native<CharT>(section, impl_->codePage))) {
+          names.push_back(Narrow<CharT>(name, impl_->codePage));
+        }
+        return names;
+      },
+      impl_->document);
+}
+
+std::vector<std::string> TIniFile::ReadSectionValues(std::string_view section) const {
+  return std::visit(
+      [&](const auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        auto native = Native<CharT>(section, impl_->codePage);
+        std::vector<std::string> lines;
+        // Each key with the value a look-up of its name gives: a duplicate shows the first value.
+        for (auto name : doc.KeyNames(native)) {
+          std::basic_string<CharT> line(name);
+          line += CharT('=');
+          line += AsRead(doc, doc.Value(native, name).value_or(std::basic_string_view<CharT>()));
+          lines.push_back(Narrow<CharT>(line, impl_->codePage));
+        }
+        return lines;
+      },
+      impl_->document);
+}
+
+std::vector<std::string> TIniFile::ReadSections() const {
+  return std::visit(
+      [&](const auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        std::vector<std::string> names;
+        for (auto name : doc.SectionNames()) names.push_back(Narrow<CharT>(name, impl_->codePage));
+        return names;
+      },
+      impl_->document);
+}
+
+bool TIniFile::SectionExists(std::string_view section) const {
+  return std::visit(
+      [&](const auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        return !doc.KeyNames(Native<CharT>(section, impl_->codePage)).empty();
+      },
+      impl_->document);
+}
+
+bool TIniFile::ValueExists(std::string_view section, std::string_view key) const {
+  return std::visit(
+      [&](const auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        int page = impl_->codePage;
+        return doc.Value(Native<CharT>(section, page), Native<CharT>(key, page)).has_value();
+      },
+      impl_->document);
+}
+
+void TIniFile::WriteString(std::string_view section, std::string_view key, std::string_view value) {
+  std::visit(
+      [&](auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        int page = impl_->codePage;
+        impl_->Store(
+            doc, std::optional(doc.WithValue(Native<CharT>(section, page), Native<CharT>(key, page),
+                                             Native<CharT>(value, page))));
+      },
+      impl_->document);
+}
+
+void TIniFile::WriteInteger(std::string_view section, std::string_view key, int32_t value) {
+  WriteString(section, key, std::to_string(value));
+}
+
+void TIniFile::WriteBool(std::string_view section, std::string_view key, bool value) {
+  WriteString(section, key, value ? "1" : "0");
+}
+
+void TIniFile::DeleteKey(std::string_view section, std::string_view key) {
+  std::visit(
+      [&](auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        int page = impl_->codePage;
+        impl_->Store(doc, doc.WithoutKey(Native<CharT>(section, page), Native<CharT>(key, page)));
+      },
+      impl_->document);
+}
+
+void TIniFile::EraseSection(std::string_view section) {
+  std::visit(
+      [&](auto& doc) {
+        using CharT = typename std::decay_t<decltype(doc)>::Char;
+        impl_->Store(doc, doc.WithoutSection(Native<CharT>(section, impl_->codePage)));
+      },
+      impl_->document);
+}
+
+uint64_t TIniFile::ParseCount() {
+  return parseCount.load();
+}
+
+}  // namespace mv::ini
