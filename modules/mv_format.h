@@ -14,6 +14,7 @@
 // - index: the conversion takes the argument with that number, counted from 0 ("%1:s" takes the
 //   second); a conversion without an index takes the argument after the one taken last.
 // Width and precision count characters: a Big5 double-byte character of narrow text is one.
+// Narrow texts are read in the user's code page, or code page 1252 when no converter serves it.
 // Arguments that no conversion takes are ignored.
 #pragma once
 

@@ -3,10 +3,16 @@
 #include <algorithm>
 
 #include "platform/codepage/codepage.h"
-#include "platform/codepage/narrow_chars.h"
 
 namespace mv::modules::detail {
 namespace {
+
+// The user's code page, or 1252 when no converter serves it: the string primitives report no
+// errors, and a wrong MV_CODEPAGE must not make every text routine throw.
+int ReadingCodePage() {
+  int codePage = codepage::UserCodePage();
+  return codepage::ConverterName(codePage).empty() ? codepage::kWestern : codePage;
+}
 
 bool IsHighSurrogate(char16_t c) {
   return c >= 0xD800 && c <= 0xDBFF;
@@ -18,11 +24,15 @@ bool IsLowSurrogate(char16_t c) {
 }  // namespace
 
 std::u16string Widen(std::string_view s) {
-  return codepage::ToWide(s, codepage::UserCodePage());
+  return codepage::ToWide(s, ReadingCodePage());
 }
 
 std::string Narrow(std::u16string_view s) {
-  return codepage::FromWide(s, codepage::UserCodePage());
+  return codepage::FromWide(s, ReadingCodePage());
+}
+
+codepage::TMappedWide MapToWide(std::string_view s) {
+  return codepage::ToWideMapped(s, ReadingCodePage());
 }
 
 bool TCharIndex::IsBoundary(size_t at) const {
@@ -30,7 +40,7 @@ bool TCharIndex::IsBoundary(size_t at) const {
 }
 
 TCharIndex IndexOf(std::string_view s) {
-  return {codepage::CharStarts(s, codepage::UserCodePage()), s.size()};
+  return {codepage::CharStarts(s, ReadingCodePage()), s.size()};
 }
 
 TCharIndex IndexOf(std::u16string_view s) {
@@ -49,6 +59,11 @@ char32_t CodePointAt(std::u16string_view s, size_t i) {
     return 0x10000 + ((static_cast<char32_t>(c) - 0xD800) << 10) + (s[i + 1] - 0xDC00);
   }
   return c;
+}
+
+size_t CharNumber(const TCharIndex& index, size_t at) {
+  return static_cast<size_t>(std::lower_bound(index.starts.begin(), index.starts.end(), at) -
+                             index.starts.begin());
 }
 
 }  // namespace mv::modules::detail

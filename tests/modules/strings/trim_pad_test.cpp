@@ -1,0 +1,81 @@
+// Blanks, single characters, fields and padding: edges of widths and buffers, and Big5 text whose
+// second bytes look like the character looked for.
+#include <gtest/gtest.h>
+
+#include "modules/mv_str_pad.h"
+#include "modules/mv_strings.h"
+#include "tests/modules/strings/big5.h"
+
+namespace mv::modules {
+namespace {
+
+using namespace big5;
+using TrimPadTest = Big5Test;
+
+TEST_F(TrimPadTest, TrimsDropBlanksOnly) {
+  EXPECT_EQ(_MV_AllTrim(u"  中 文\t "), u"中 文\t");
+  EXPECT_EQ(_MV_RTrim(u"   "), u"");
+  EXPECT_EQ(_MV_LTrim(std::string(" \t")), "\t");
+  EXPECT_FALSE(_MV_NotEmpty(u"   "));
+  EXPECT_FALSE(_MV_NotEmpty(std::string()));
+  EXPECT_TRUE(_MV_NotEmpty(" " + kZhong));
+}
+
+TEST_F(TrimPadTest, SingleCharactersNeverMatchASecondByte) {
+  EXPECT_EQ(_MV_FillStr(kXu + "\\a\\", '\\', '/'), kXu + "/a/");
+  EXPECT_EQ(_MV_LTrimChar("aa" + kWu + "a", 'a'), kWu + "a");
+  EXPECT_EQ(_MV_LTrimChar(std::string("\xA4\xA4\xA4"), '\xA4'), "\xA4\xA4\xA4");
+  EXPECT_EQ(_MV_LTrimChar(u"００1", u'０'), u"1");
+  EXPECT_EQ(_MV_FillStr(u"a-b-", u'-', u'中'), u"a中b中");
+}
+
+TEST_F(TrimPadTest, FieldsSplitAtWholeDelimiters) {
+  std::string text = "A|" + kYiBar + "|" + kZhong + "|";
+  EXPECT_EQ(MV_UserTitle(text, '|', 2), kYiBar);
+  EXPECT_EQ(MV_UserTitle(text, '|', 3), kZhong);
+  EXPECT_EQ(MV_UserTitle(text, '|', 4), "");
+  EXPECT_EQ(MV_UserTitle(text, '|', 5), "");
+  EXPECT_EQ(MV_UserTitle(u"a,,b", u',', 3), u"b");
+  EXPECT_EQ(MV_UserTitle(u"a", u',', 0), u"");
+}
+
+TEST_F(TrimPadTest, CompareTextFoldsOnlySingleByteLetters) {
+  EXPECT_NE(MV_CompareText(kWu, kYi), 0);  // 兀 and 乙 are different characters
+  EXPECT_FALSE(MV_SameText("x" + kWu, "X" + kYi));
+  EXPECT_TRUE(MV_SameText(kWu + "abc", kWu + "ABC"));
+  EXPECT_LT(MV_CompareText("a", "\xA4\xA4"), 0);  // bytes compare unsigned
+  EXPECT_GT(MV_CompareText(u"b", u"A"), 0);
+  EXPECT_TRUE(MV_SameText(u"tdec", u"TDEC"));
+  EXPECT_FALSE(MV_SameText(u"ａ", u"Ａ"));  // only English letters a-z fold
+}
+
+TEST(PadTest, WidthCountsStorageUnitsAndNeverCuts) {
+  EXPECT_EQ(_MV_PadR("ab", 4), "ab  ");
+  EXPECT_EQ(_MV_PadL(u"ab", 4), u"  ab");
+  EXPECT_EQ(_MV_PadL("\xA4\xA4", 3), " \xA4\xA4");  // a Big5 character fills two
+  EXPECT_EQ(_MV_PadR(u"中", 3), u"中  ");
+  EXPECT_EQ(_MV_PadC("ab", 5), " ab  ");
+  EXPECT_EQ(_MV_PadC(u"", 2), u"  ");
+  EXPECT_EQ(_MV_PadLChar("12345", '0', 4), "12345");
+  EXPECT_EQ(_MV_PadRChar(u"x", u'*', 0), u"x");
+  EXPECT_EQ(_MV_PadLChar(u"7", u'0', -3), u"7");
+  EXPECT_EQ(_MV_PadLChar("7", '0', 3), "007");
+}
+
+TEST(PadTest, BufferPaddingStaysInsideTheBuffer) {
+  char narrow[6] = "ab";
+  EXPECT_EQ(_MV_StrRPadChar(narrow, '.', 4), 4u);
+  EXPECT_STREQ(narrow, "ab..");
+  EXPECT_EQ(_MV_StrRPadChar(narrow, '#', 99), 5u);
+  EXPECT_STREQ(narrow, "ab..#");
+  char16_t wide[4] = u"abc";
+  EXPECT_EQ(_MV_StrRPadChar(wide, u'-', 2), 3u);
+  EXPECT_EQ(std::u16string(wide), u"abc");
+  char full[3] = {'a', 'b', 'c'};
+  EXPECT_EQ(_MV_StrRPadChar(full, '.', 5), 3u);
+  EXPECT_EQ(std::string(full, 3), "abc");
+  EXPECT_EQ(_MV_StrRPadChar(std::span<char>(), '.', 5), 0u);
+}
+
+}  // namespace
+}  // namespace mv::modules
