@@ -1,9 +1,7 @@
 #include "platform/qt/qt_msg_dialog.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "platform/qt/msg_box.h"
+#include "platform/qt/widget_scale.h"
 
 namespace mv::qt {
 
@@ -12,14 +10,7 @@ QtMsgDialog::QtMsgDialog(dialogs::DialogRequest request, bool english)
 
 void QtMsgDialog::ScaleBy(int numerator, int denominator) {
   if (numerator <= 0 || denominator <= 0) return;
-  const double ratio = static_cast<double>(numerator) / denominator;
-  QFont font = box_->font();
-  if (font.pointSizeF() > 0) {
-    font.setPointSizeF(font.pointSizeF() * ratio);
-  } else {
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(font.pixelSize() * ratio))));
-  }
-  box_->setFont(font);
+  ScaleWidget(*box_, static_cast<double>(numerator) / denominator);
 }
 
 dialogs::TMsgDlgBtn QtMsgDialog::ShowModal() {

@@ -16,8 +16,9 @@ class QtMsgDialog : public dialogs::TMsgDialog {
   QtMsgDialog(dialogs::DialogRequest request, bool english);
 
   const dialogs::DialogRequest& Request() const override { return request_; }
-  // Scales the box's font by numerator / denominator, and with it the size the box takes when
-  // shown (its layout follows the font). Calls compose; a zero or negative term is ignored.
+  // Scales the box by numerator / denominator (see ScaleWidget): its font, its buttons and the
+  // gaps of its layout, and so the size it takes when shown; its icon keeps the style's size.
+  // Calls compose; a zero or negative term is ignored.
   void ScaleBy(int numerator, int denominator) override;
   // Runs the box modally and returns the button that closed it (see ClosingButton). May be
   // called again; each call shows the box anew.

@@ -11,8 +11,8 @@
 namespace mv::test {
 namespace {
 
-// The program's QApplication, made when the tests start (not when they are listed). A fixed
-// application font keeps sizes and metrics the same on every machine.
+// The program's QApplication, made when the tests run (not when they are listed), with a fixed
+// font so that sizes and metrics are the same on every machine.
 class QtApplicationEnvironment : public ::testing::Environment {
  public:
   void SetUp() override {
@@ -30,26 +30,22 @@ class QtApplicationEnvironment : public ::testing::Environment {
 
 const auto* const kEnvironment = ::testing::AddGlobalTestEnvironment(new QtApplicationEnvironment);
 
-void CloseIfStillOpen(QPointer<QWidget> modal) {
-  QTimer::singleShot(3000, [modal] {
-    auto* dialog = qobject_cast<QDialog*>(modal.data());
-    if (dialog == nullptr || !dialog->isVisible()) return;
-    ADD_FAILURE() << "dialog " << dialog->objectName().toStdString() << " left open";
-    dialog->done(QDialog::Rejected);
-  });
-}
-
 }  // namespace
 
 void WhenModal(std::function<void(QWidget& modal)> action) {
   auto* timer = new QTimer;
   timer->setInterval(5);
   QObject::connect(timer, &QTimer::timeout, [timer, action = std::move(action)] {
-    QWidget* modal = QApplication::activeModalWidget();
+    QPointer<QWidget> modal = QApplication::activeModalWidget();
     if (modal == nullptr || !modal->isVisible()) return;
-    timer->stop();
     timer->deleteLater();
-    CloseIfStillOpen(modal);
+    timer->stop();
+    QTimer::singleShot(3000, [modal] {  // a dialog the action left open would hang the test
+      if (auto* dialog = qobject_cast<QDialog*>(modal.data()); dialog && dialog->isVisible()) {
+        ADD_FAILURE() << "dialog left open";
+        dialog->done(QDialog::Rejected);
+      }
+    });
     action(*modal);
   });
   timer->start();
