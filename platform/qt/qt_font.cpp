@@ -2,10 +2,10 @@
 
 namespace mv::qt {
 
-QFont ToQFont(const FontSpec& spec) {
-  QFont font(QString::fromStdU16String(spec.family));
-  if (spec.pointSize > 0) font.setPointSizeF(spec.pointSize);
-  return font;
+QFont ToQFont(const TextFont& font) {
+  QFont out(QString::fromStdU16String(font.family));
+  if (font.pointSize > 0) out.setPointSizeF(font.pointSize);
+  return out;
 }
 
 }  // namespace mv::qt

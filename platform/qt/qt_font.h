@@ -1,4 +1,4 @@
-// The Qt font of a FontSpec.
+// The Qt font of a TextFont.
 #pragma once
 
 #include <QFont>
@@ -7,7 +7,7 @@
 
 namespace mv::qt {
 
-// A QFont of the spec's family at its point size (the application font's size when 0 or less).
-QFont ToQFont(const FontSpec& spec);
+// A QFont of the font's family at its point size (the application font's size when 0 or less).
+QFont ToQFont(const TextFont& font);
 
 }  // namespace mv::qt

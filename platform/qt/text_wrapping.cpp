@@ -75,7 +75,7 @@ QStringList Paragraphs(const QString& text) {
 
 }  // namespace
 
-std::u16string TextWrapping(const FontSpec& font, int width, std::u16string_view text) {
+std::u16string TextWrapping(const TextFont& font, int width, std::u16string_view text) {
   // Fonts cannot be measured before a QGuiApplication exists (Qt would abort).
   if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr)
     return std::u16string(text);
@@ -90,7 +90,7 @@ std::u16string TextWrapping(const FontSpec& font, int width, std::u16string_view
 
 namespace mv::modules {
 
-std::u16string MV_TextWrapping(const qt::FontSpec& font, int width, std::u16string_view text) {
+std::u16string MV_TextWrapping(const qt::TextFont& font, int width, std::u16string_view text) {
   return qt::TextWrapping(font, width, text);
 }
 

@@ -10,7 +10,7 @@ namespace mv::qt {
 // A font as the library names one: family (UTF-16, "DejaVu Sans", "新細明體") and size in points.
 // An unknown family falls back to the font the system substitutes; a size of 0 or less keeps
 // the application font's size.
-struct FontSpec {
+struct TextFont {
   std::u16string family;
   double pointSize = 9;
 };
@@ -23,13 +23,13 @@ struct FontSpec {
 // their line and do not count toward its width, so removing the inserted CR LF gives the text
 // back. Line breaks already in the text (CR LF, LF or CR) are kept, written as CR LF. Fonts are
 // measured by Qt: without a QGuiApplication (a console program) the text comes back unchanged.
-std::u16string TextWrapping(const FontSpec& font, int width, std::u16string_view text);
+std::u16string TextWrapping(const TextFont& font, int width, std::u16string_view text);
 
 }  // namespace mv::qt
 
 namespace mv::modules {
 
 // The sibling package's name of mv::qt::TextWrapping; same contract.
-std::u16string MV_TextWrapping(const qt::FontSpec& font, int width, std::u16string_view text);
+std::u16string MV_TextWrapping(const qt::TextFont& font, int width, std::u16string_view text);
 
 }  // namespace mv::modules

@@ -11,7 +11,7 @@
 namespace mv::qt {
 namespace {
 
-const FontSpec kFont{u"DejaVu Sans", 10};
+const TextFont kFont{u"DejaVu Sans", 10};
 using Lines = std::vector<std::u16string>;
 
 // The width of a line as the reader sees it: blanks at its end do not show.
