@@ -1,5 +1,6 @@
 #include "common/text/messages.h"
 
+#include "modules/mv_colorblock.h"
 #include "modules/mv_strings.h"
 #include "platform/codepage/codepage.h"
 #include "platform/dialogs/dialogs.h"
@@ -9,6 +10,14 @@ namespace mv {
 
 std::string UserTitle(std::string_view text, char delimiter, int n) {
   return modules::MV_UserTitle(text, delimiter, n);
+}
+
+std::string RemoveColorBlock(std::string_view text) {
+  return modules::MV_RemoveColorBlock(text);
+}
+
+std::u16string RemoveColorBlock(std::u16string_view text) {
+  return modules::MV_RemoveColorBlock(text);
 }
 
 void ShowErrorBox(const std::u16string& text) {
