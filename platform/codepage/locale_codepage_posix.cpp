@@ -4,7 +4,9 @@
 #include <cctype>
 #include <clocale>
 #include <cstdlib>
+#include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "platform/codepage/locale_codepage.h"
 
@@ -20,18 +22,53 @@ int CodePageOfCharset(std::string_view charset) {
   return 1252;
 }
 
-int CodePageOfEnvironment() {
-  if (const char* env = std::getenv("MV_CODEPAGE"); env != nullptr && *env != '\0') {
-    char* end = nullptr;
-    long value = std::strtol(env, &end, 10);
-    if (end != env && *end == '\0' && value > 0 && value < 65536) return static_cast<int>(value);
-  }
-  // The locale of the environment, without changing the process's own locale.
+namespace {
+
+// MV_CODEPAGE when it holds a code page number, else 0.
+int CodePageOverride() {
+  const char* env = std::getenv("MV_CODEPAGE");
+  if (env == nullptr || *env == '\0') return 0;
+  char* end = nullptr;
+  long value = std::strtol(env, &end, 10);
+  return end != env && *end == '\0' && value > 0 && value < 65536 ? static_cast<int>(value) : 0;
+}
+
+// The code page of the environment's locale, without changing the process's own locale.
+int CodePageOfLocale() {
   locale_t loc = newlocale(LC_CTYPE_MASK, "", static_cast<locale_t>(0));
   if (loc == static_cast<locale_t>(0)) return 1252;
   std::string charset = nl_langinfo_l(CODESET, loc);
   freelocale(loc);
   return CodePageOfCharset(charset);
+}
+
+// The values of the variables that choose the environment's locale, each followed by a zero byte
+// ("\1" for an unset one).
+std::string LocaleVariables() {
+  std::string key;
+  for (const char* name : {"LC_ALL", "LC_CTYPE", "LANG", "LOCPATH"}) {
+    const char* value = std::getenv(name);
+    key += value != nullptr ? value : "\1";
+    key += '\0';
+  }
+  return key;
+}
+
+}  // namespace
+
+int CodePageOfEnvironment() {
+  if (int codePage = CodePageOverride(); codePage != 0) return codePage;
+  // Opening the environment's locale reads locale files and takes up to a millisecond, and every
+  // conversion in the user's code page asks; the answer is kept until one of the variables
+  // changes.
+  thread_local std::string cachedKey;
+  thread_local int cachedCodePage = 0;
+  std::string key = LocaleVariables();
+  if (cachedCodePage == 0 || key != cachedKey) {
+    cachedCodePage = CodePageOfLocale();
+    cachedKey = std::move(key);
+  }
+  return cachedCodePage;
 }
 
 }  // namespace mv::codepage

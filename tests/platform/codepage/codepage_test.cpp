@@ -4,6 +4,7 @@
 
 #include "platform/codepage/codepage.h"
 #include "platform/codepage/simplified.h"
+#include "tests/support/temp_dir.h"
 
 namespace mv::codepage {
 namespace {
@@ -85,6 +86,27 @@ TEST(CodePageConversion, MappableOnlyWithoutSubstitution) {
   EXPECT_TRUE(IsMappable(u"Café", kWestern));
   EXPECT_FALSE(IsMappable(u"A\uFE00", kBig5));  // a variation selector would be dropped
   EXPECT_EQ(FromWide(u"A\uFE00", kBig5), "A");
+}
+
+TEST(CodePageConversion, UserCodePageFollowsTheEnvironment) {
+  test::ScopedEnv all("LC_ALL", "");
+  test::ScopedEnv ctype("LC_CTYPE", "");
+  test::ScopedEnv lang("LANG", "C");
+  test::ScopedEnv override("MV_CODEPAGE", "950");
+  EXPECT_EQ(UserCodePage(), kBig5);
+  EXPECT_EQ(SystemCodePage(), kBig5);
+  {
+    test::ScopedEnv gbk("MV_CODEPAGE", "936");
+    EXPECT_EQ(UserCodePage(), kGbk);
+  }
+  EXPECT_EQ(UserCodePage(), kBig5);
+  test::ScopedEnv none("MV_CODEPAGE", "");
+  EXPECT_EQ(UserCodePage(), kWestern);
+  {
+    test::ScopedEnv utf8("LANG", "C.UTF-8");  // the C library always has this one
+    EXPECT_EQ(UserCodePage(), kUtf8);
+  }
+  EXPECT_EQ(UserCodePage(), kWestern);
 }
 
 TEST(Simplified, TraditionalWordsBecomeSimplified) {
