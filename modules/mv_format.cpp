@@ -56,7 +56,8 @@ std::string IntegerDigits(const TSpec& spec, int64_t value) {
   for (char& c : digits) c = (c >= 'a' && c <= 'f') ? static_cast<char>(c - 'a' + 'A') : c;
   if (spec.precision && digits.size() < *spec.precision)
     digits.insert(0, *spec.precision - digits.size(), '0');
-  return negative ? "-" + digits : digits;
+  if (negative) digits.insert(digits.begin(), '-');
+  return digits;
 }
 
 std::string FloatDigits(const TSpec& spec, double value) {

@@ -52,6 +52,14 @@ std::string Exponent(double value, int digits) {
   return sci.mantissa + "E" + (sci.exponent < 0 ? "-" : "+") + exponent;
 }
 
+// prefix + text, written out so that GCC 12 at -O3 does not see a false overlap in
+// operator+(const char*, std::string&&).
+std::string Prefixed(std::string_view prefix, std::string_view text) {
+  std::string out(prefix);
+  out.append(text);
+  return out;
+}
+
 std::string Grouped(std::string fixed) {
   size_t integerEnd = std::min(fixed.find('.'), fixed.size());
   for (size_t at = integerEnd; at > 3; at -= 3) fixed.insert(at - 3, 1, ',');
@@ -67,7 +75,7 @@ std::string Unsigned(double value, TFloatFormat format, int digits) {
     case ffNumber:
       return Grouped(ToChars(value, std::chars_format::fixed, std::clamp(digits, 0, kMaxDigits)));
     case ffCurrency:
-      return "$" + Unsigned(value, ffNumber, digits);
+      return Prefixed("$", Unsigned(value, ffNumber, digits));
     case ffGeneral:
     default:
       return General(value, std::clamp(digits, 1, kMaxDigits));
@@ -86,7 +94,7 @@ std::string _MV_FToStr(double value, TFloatFormat format, int digits) {
   if (std::isnan(value)) return "NAN";
   if (std::isinf(value)) return value < 0 ? "-INF" : "INF";
   std::string text = Unsigned(std::fabs(value), format, digits);
-  return std::signbit(value) && !ShowsOnlyZeros(text) ? "-" + text : text;
+  return std::signbit(value) && !ShowsOnlyZeros(text) ? Prefixed("-", text) : text;
 }
 
 }  // namespace mv::modules

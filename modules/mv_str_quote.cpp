@@ -8,9 +8,11 @@ namespace mv::modules {
 namespace {
 
 template <class Char>
-std::basic_string<Char> Quoted(std::basic_string_view<Char> s, Char quote) {
+std::basic_string<Char> Quoted(std::basic_string_view<Char> s, Char quote,
+                               std::basic_string_view<Char> prefix = {}) {
   detail::TChars<Char> chars{s};
-  std::basic_string<Char> out(1, quote);
+  std::basic_string<Char> out(prefix);
+  out.push_back(quote);
   for (size_t i = 0; i < chars.Count(); ++i) {
     if (chars.Is(i, quote)) out.push_back(quote);
     out.append(chars.At(i));
@@ -67,10 +69,10 @@ std::u16string MV_WideDequotedStr(std::u16string_view s, char16_t quote) {
 }
 
 std::string MV_NQuotedStr(std::string_view s) {
-  return "N" + Quoted(s, '\'');
+  return Quoted(s, '\'', std::string_view("N"));
 }
 std::u16string MV_NQuotedStr(std::u16string_view s) {
-  return u"N" + Quoted(s, u'\'');
+  return Quoted(s, u'\'', std::u16string_view(u"N"));
 }
 
 bool MV_CheckQuot(std::string_view s) {

@@ -56,7 +56,7 @@ TRanges NarrowMatches(std::string_view s, std::string_view old, TReplaceFlags fl
     codepage::TMappedWide mapped = detail::MapToWide(s);
     for (auto [begin, end] : WideMatches(mapped.wide, detail::Widen(old), flags)) {
       auto byte = [&](size_t unit) {
-        return unit < mapped.offsets.size() ? static_cast<size_t>(mapped.offsets[unit]) : s.size();
+        return unit < mapped.offsets.size() ? mapped.offsets[unit] : s.size();
       };
       found.emplace_back(byte(begin), byte(end));
     }

@@ -1,6 +1,5 @@
 #include "modules/mv_str_wrap.h"
 
-#include <optional>
 #include <vector>
 
 #include "modules/mv_text_units.h"
@@ -19,17 +18,18 @@ std::vector<size_t> BreakPoints(std::basic_string_view<Char> s,
   };
   std::vector<size_t> points;
   size_t column = 0;
-  std::optional<size_t> lastBreak;
+  constexpr size_t kNone = static_cast<size_t>(-1);
+  size_t lastBreak = kNone;  // the last break character of the line so far
   for (size_t i = 0; i < chars.Count(); ++i) {
     if (chars.Is(i, Char('\r')) || chars.Is(i, Char('\n'))) {
       column = 0;
-      lastBreak.reset();
+      lastBreak = kNone;
       continue;
     }
-    if (++column > maxCol && lastBreak) {
-      points.push_back(chars.index.Offset(*lastBreak + 1));
-      column = i - *lastBreak;
-      lastBreak.reset();
+    if (++column > maxCol && lastBreak != kNone) {
+      points.push_back(chars.index.Offset(lastBreak + 1));
+      column = i - lastBreak;
+      lastBreak = kNone;
     }
     if (isBreak(i)) lastBreak = i;
   }

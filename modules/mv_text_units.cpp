@@ -7,13 +7,6 @@
 namespace mv::modules::detail {
 namespace {
 
-// The user's code page, or 1252 when no converter serves it: the string primitives report no
-// errors, and a wrong MV_CODEPAGE must not make every text routine throw.
-int ReadingCodePage() {
-  int codePage = codepage::UserCodePage();
-  return codepage::ConverterName(codePage).empty() ? codepage::kWestern : codePage;
-}
-
 bool IsHighSurrogate(char16_t c) {
   return c >= 0xD800 && c <= 0xDBFF;
 }
@@ -22,6 +15,12 @@ bool IsLowSurrogate(char16_t c) {
 }
 
 }  // namespace
+
+// The string primitives report no errors: a wrong MV_CODEPAGE must not make them throw.
+int ReadingCodePage() {
+  int codePage = codepage::UserCodePage();
+  return codepage::ConverterName(codePage).empty() ? codepage::kWestern : codePage;
+}
 
 std::u16string Widen(std::string_view s) {
   return codepage::ToWide(s, ReadingCodePage());

@@ -16,6 +16,9 @@
 
 namespace mv::modules::detail {
 
+// The code page narrow text is read in: the user's, or 1252 when no converter serves it.
+int ReadingCodePage();
+
 // Wide text of narrow text in the user's code page.
 std::u16string Widen(std::string_view s);
 // Narrow text in the user's code page of wide text ("?" for what the code page cannot hold).
@@ -74,9 +77,19 @@ void ForEachChar(std::string_view s, F f) {
       if (!f(i, size_t{1})) return;
     return;
   }
-  TCharIndex index = IndexOf(s);
-  for (size_t i = 0; i < index.Count(); ++i)
-    if (!f(index.Offset(i), index.Length(i))) return;
+  // Each character is handed on once the start of the next one is known.
+  codepage::TNarrowReader reader(s, ReadingCodePage());
+  bool started = false;
+  size_t start = 0;
+  while (reader.Next()) {
+    for (size_t at : reader.Offsets()) {
+      if (started && at <= start) continue;
+      if (started && !f(start, at - start)) return;
+      start = at;
+      started = true;
+    }
+  }
+  if (started) f(start, s.size() - start);
 }
 
 // Calls f(offset, length) for every code point of wide `s` in order, while f returns true.

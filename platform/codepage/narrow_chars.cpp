@@ -3,13 +3,15 @@
 #include <unicode/ucnv.h>
 
 #include <algorithm>
-#include <memory>
 #include <numeric>
 
 #include "platform/codepage/codepage.h"
 
 namespace mv::codepage {
 namespace {
+
+// Bytes read per piece: small enough that the buffers come from the heap, not from fresh pages.
+constexpr size_t kPieceBytes = 4096;
 
 struct ConverterCloser {
   void operator()(UConverter* c) const { ucnv_close(c); }
@@ -35,24 +37,64 @@ bool IsAscii(std::string_view text) {
 
 }  // namespace
 
+struct TNarrowReader::TState {
+  ConverterPtr conv;
+  std::string_view text;
+  size_t done = 0;
+  std::vector<int32_t> pieceOffsets;
+};
+
+TNarrowReader::TNarrowReader(std::string_view text, int codePage)
+    : state_(new TState{OpenConverter(codePage), text, 0, {}}) {}
+
+TNarrowReader::~TNarrowReader() = default;
+
+bool TNarrowReader::Next() {
+  TState& s = *state_;
+  count_ = 0;
+  if (s.done >= s.text.size()) return false;
+  size_t end = std::min(s.done + kPieceBytes, s.text.size());
+  bool last = end == s.text.size();
+  size_t capacity = 2 * (end - s.done) + 2;  // every byte gives at most two units
+  units_.resize(capacity);
+  offsets_.resize(capacity);
+  s.pieceOffsets.resize(capacity);
+  UChar* target = units_.data();
+  const char* source = s.text.data() + s.done;
+  UErrorCode status = U_ZERO_ERROR;
+  ucnv_toUnicode(s.conv.get(), &target, units_.data() + capacity, &source, s.text.data() + end,
+                 s.pieceOffsets.data(), last, &status);
+  if (U_FAILURE(status))
+    throw ECodePageError(std::string("conversion failed: ") + u_errorName(status));
+  count_ = static_cast<size_t>(target - units_.data());
+  for (size_t i = 0; i < count_; ++i) {
+    int32_t offset = s.pieceOffsets[i];
+    offsets_[i] = s.done + static_cast<size_t>(std::max(0, offset));
+  }
+  if (!last) {
+    // Bytes the converter still holds (a character cut at the piece's end, or bytes it will read
+    // again after an illegal sequence) are read afresh as the start of the next piece, so that
+    // every unit knows its offset.
+    int32_t pending = ucnv_toUCountPending(s.conv.get(), &status);
+    if (U_SUCCESS(status) && pending > 0 && static_cast<size_t>(pending) < end - s.done) {
+      ucnv_resetToUnicode(s.conv.get());
+      end -= static_cast<size_t>(pending);
+    }
+  }
+  s.done = end;
+  return true;
+}
+
 TMappedWide ToWideMapped(std::string_view text, int codePage) {
   TMappedWide out;
   if (text.empty()) return out;
-  ConverterPtr conv = OpenConverter(codePage);
-  // Every byte gives at most two units (a surrogate pair or a substitution).
-  size_t capacity = text.size() * 2 + 2;
-  out.wide.resize(capacity);
-  out.offsets.resize(capacity);
-  UChar* target = out.wide.data();
-  const char* source = text.data();
-  UErrorCode status = U_ZERO_ERROR;
-  ucnv_toUnicode(conv.get(), &target, target + capacity, &source, source + text.size(),
-                 out.offsets.data(), true, &status);
-  if (U_FAILURE(status))
-    throw ECodePageError(std::string("conversion failed: ") + u_errorName(status));
-  size_t n = static_cast<size_t>(target - out.wide.data());
-  out.wide.resize(n);
-  out.offsets.resize(n);
+  out.wide.reserve(text.size());
+  out.offsets.reserve(text.size());
+  TNarrowReader reader(text, codePage);
+  while (reader.Next()) {
+    out.wide.append(reader.Units().begin(), reader.Units().end());
+    out.offsets.insert(out.offsets.end(), reader.Offsets().begin(), reader.Offsets().end());
+  }
   return out;
 }
 
@@ -63,12 +105,11 @@ std::vector<size_t> CharStarts(std::string_view text, int codePage) {
     std::iota(starts.begin(), starts.end(), size_t{0});
     return starts;
   }
-  TMappedWide mapped = ToWideMapped(text, codePage);
-  starts.reserve(mapped.offsets.size());
-  for (int32_t offset : mapped.offsets) {
-    if (offset < 0) continue;
-    size_t at = static_cast<size_t>(offset);
-    if (starts.empty() || at > starts.back()) starts.push_back(at);
+  TNarrowReader reader(text, codePage);
+  while (reader.Next()) {
+    for (size_t at : reader.Offsets()) {
+      if (starts.empty() || at > starts.back()) starts.push_back(at);
+    }
   }
   return starts;
 }

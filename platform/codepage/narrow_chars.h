@@ -3,28 +3,52 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace mv::codepage {
 
-// Wide text read from narrow text, with the narrow character each UTF-16 unit comes from.
-struct TMappedWide {
-  std::u16string wide;
-  // For every unit of `wide`, the byte offset in the narrow text of the character it comes from
-  // (both units of a surrogate pair carry the same offset).
-  std::vector<int32_t> offsets;
+// Reads narrow text in a code page piece by piece, so that long texts need no buffers of their
+// size: each piece gives wide units, each with the byte offset (in the whole text) of the
+// character it comes from; both units of a surrogate pair carry the same offset. Bytes that
+// start no valid character become U+FFFD, one per byte that ICU rejects, and are characters of
+// their own. The text must outlive the reader.
+class TNarrowReader {
+ public:
+  // Throws ECodePageError for an unknown code page.
+  TNarrowReader(std::string_view text, int codePage);
+  ~TNarrowReader();
+  TNarrowReader(const TNarrowReader&) = delete;
+  TNarrowReader& operator=(const TNarrowReader&) = delete;
+
+  // The next piece; false (and nothing read) when the text is done. The spans stay valid until
+  // the next call.
+  bool Next();
+  std::span<const char16_t> Units() const { return {units_.data(), count_}; }
+  std::span<const size_t> Offsets() const { return {offsets_.data(), count_}; }
+
+ private:
+  struct TState;
+  std::unique_ptr<TState> state_;
+  std::vector<char16_t> units_;
+  std::vector<size_t> offsets_;
+  size_t count_ = 0;
 };
 
-// The wide text of narrow `text` in `codePage`, mapped unit by unit to the narrow characters.
-// Bytes that start no valid character become U+FFFD, one per byte that ICU rejects.
-// Throws ECodePageError for an unknown code page.
+// The wide text of narrow `text` in `codePage`, with for every unit the byte offset of the
+// character it comes from (as TNarrowReader reads it). Throws ECodePageError for an unknown code
+// page.
+struct TMappedWide {
+  std::u16string wide;
+  std::vector<size_t> offsets;
+};
 TMappedWide ToWideMapped(std::string_view text, int codePage);
 
 // The byte offsets, ascending and starting with 0, at which the characters of narrow `text` in
-// `codePage` start; empty for an empty text. A byte that starts no valid character (a lone lead
-// byte) is a character of its own. Text of bytes below 0x80 only is answered without ICU.
+// `codePage` start; empty for an empty text. Text of bytes below 0x80 is answered without ICU.
 // Throws ECodePageError for an unknown code page.
 std::vector<size_t> CharStarts(std::string_view text, int codePage);
 

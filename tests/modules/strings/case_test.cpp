@@ -24,6 +24,10 @@ TEST_F(CaseTest, Big5SecondBytesAreNoLetters) {
   EXPECT_EQ(_MV_ChangeCase("ab" + kWu + "cd" + kYi + "EF"), "Ab" + kWu + "Cd" + kYi + "Ef");
   EXPECT_EQ(_MV_ECharUpperCase("a" + kWu + "z" + kZhong), "A" + kWu + "Z" + kZhong);
   EXPECT_EQ(_MV_ECharUpperCase(u"aé中ｂz"), u"Aé中ｂZ");
+  std::string wus;
+  for (int i = 0; i < 5000; ++i) wus += kWu;  // read in pieces, some 兀 cut between two
+  EXPECT_EQ(_MV_ECharUpperCase("a" + wus + "z"), "A" + wus + "Z");
+  EXPECT_EQ(_MV_ChangeCase("a" + wus + "zz"), "A" + wus + "Zz");
 }
 
 TEST_F(CaseTest, WideCaseMappingFollowsUnicode) {

@@ -47,6 +47,25 @@ TEST_F(IndexTest, InsertKeepsTheFormOfTheDestination) {
   EXPECT_EQ(MV_Insert(u"b", u"a\U00020000", 2), u"ab\U00020000");
 }
 
+TEST_F(IndexTest, LongTextsKeepCharactersWholeAcrossReadingPieces) {
+  std::string text = "a";
+  for (int i = 0; i < 3000; ++i) text += kZhong;  // some 中 straddle every 4096-byte piece
+  text += kXu + "\\b";
+  EXPECT_EQ(MV_Pos(std::string("\\"), text), 3003);
+  EXPECT_EQ(MV_Copy(text, 3001, 2), kZhong + kXu);
+  EXPECT_EQ(MV_Delete(text, 2, 3000), "a" + kXu + "\\b");
+}
+
+TEST(IndexGb18030Test, BytesReadAgainAfterAnIllegalSequenceAtAPieceEnd) {
+  test::ScopedEnv codePage("MV_CODEPAGE", "54936");
+  // C5 33 at bytes 4094-4095 look like the start of a four-byte character; AA 2B proves them
+  // illegal, and "3" is read again as a character of its own.
+  std::string text = std::string(4094, 'x') + "\xC5\x33\xAA\x2B\\";
+  EXPECT_EQ(MV_Pos(std::string("3"), text), 4096);
+  EXPECT_EQ(MV_Copy(text, 4096, 1), "3");
+  EXPECT_EQ(MV_Pos(std::string("\\"), text), 4099);
+}
+
 TEST_F(IndexTest, ConcatAndLastDelimiter) {
   std::vector<TFormatArg> values{kZhong, std::u16string(u"文"), int64_t{-3}, 0.5};
   EXPECT_EQ(MV_Concat(values), u"中文-30.5");
