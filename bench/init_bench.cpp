@@ -8,7 +8,6 @@
 // boxes, a registry file and a WIN.INI. Boxes go to a recording provider; a benchmark that shows
 // one fails, as the installation is meant to start cleanly.
 #include <benchmark/benchmark.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
