@@ -47,6 +47,7 @@ void ResetSharedState() {
   giMaxRecords = 0;
   CheckDupTDECSub = {};
   Advance = {};
+  UserRecord = {};
   LangChanger().SetLanguage(0);
   LangChanger().SetAnsiInterface(false);
   SetServerPathOverride(std::nullopt);
