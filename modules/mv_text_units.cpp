@@ -45,10 +45,10 @@ TCharIndex IndexOf(std::string_view s) {
 TCharIndex IndexOf(std::u16string_view s) {
   TCharIndex index{{}, s.size()};
   index.starts.reserve(s.size());
-  for (size_t i = 0; i < s.size(); ++i) {
-    index.starts.push_back(i);
-    if (IsHighSurrogate(s[i]) && i + 1 < s.size() && IsLowSurrogate(s[i + 1])) ++i;
-  }
+  ForEachChar(s, [&](size_t at, size_t) {
+    index.starts.push_back(at);
+    return true;
+  });
   return index;
 }
 

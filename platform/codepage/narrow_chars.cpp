@@ -6,29 +6,13 @@
 #include <numeric>
 
 #include "platform/codepage/codepage.h"
+#include "platform/codepage/converter_cache.h"
 
 namespace mv::codepage {
 namespace {
 
 // Bytes read per piece: small enough that the buffers come from the heap, not from fresh pages.
 constexpr size_t kPieceBytes = 4096;
-
-struct ConverterCloser {
-  void operator()(UConverter* c) const { ucnv_close(c); }
-};
-using ConverterPtr = std::unique_ptr<UConverter, ConverterCloser>;
-
-ConverterPtr OpenConverter(int codePage) {
-  std::string name = ConverterName(codePage);
-  if (name.empty()) throw ECodePageError("unknown code page " + std::to_string(codePage));
-  UErrorCode status = U_ZERO_ERROR;
-  ConverterPtr conv(ucnv_open(name.c_str(), &status));
-  if (U_FAILURE(status)) {
-    throw ECodePageError("no converter for code page " + std::to_string(codePage) + ": " +
-                         u_errorName(status));
-  }
-  return conv;
-}
 
 bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(),
@@ -38,14 +22,14 @@ bool IsAscii(std::string_view text) {
 }  // namespace
 
 struct TNarrowReader::TState {
-  ConverterPtr conv;
+  UConverter* conv;  // the thread's cached converter: no state is kept in it between pieces
   std::string_view text;
   size_t done = 0;
   std::vector<int32_t> pieceOffsets;
 };
 
 TNarrowReader::TNarrowReader(std::string_view text, int codePage)
-    : state_(new TState{OpenConverter(codePage), text, 0, {}}) {}
+    : state_(new TState{CachedConverter(codePage, ConverterUse::kSubstitute), text, 0, {}}) {}
 
 TNarrowReader::~TNarrowReader() = default;
 
@@ -62,7 +46,8 @@ bool TNarrowReader::Next() {
   UChar* target = units_.data();
   const char* source = s.text.data() + s.done;
   UErrorCode status = U_ZERO_ERROR;
-  ucnv_toUnicode(s.conv.get(), &target, units_.data() + capacity, &source, s.text.data() + end,
+  ucnv_resetToUnicode(s.conv);
+  ucnv_toUnicode(s.conv, &target, units_.data() + capacity, &source, s.text.data() + end,
                  s.pieceOffsets.data(), last, &status);
   if (U_FAILURE(status))
     throw ECodePageError(std::string("conversion failed: ") + u_errorName(status));
@@ -75,9 +60,8 @@ bool TNarrowReader::Next() {
     // Bytes the converter still holds (a character cut at the piece's end, or bytes it will read
     // again after an illegal sequence) are read afresh as the start of the next piece, so that
     // every unit knows its offset.
-    int32_t pending = ucnv_toUCountPending(s.conv.get(), &status);
+    int32_t pending = ucnv_toUCountPending(s.conv, &status);
     if (U_SUCCESS(status) && pending > 0 && static_cast<size_t>(pending) < end - s.done) {
-      ucnv_resetToUnicode(s.conv.get());
       end -= static_cast<size_t>(pending);
     }
   }

@@ -2,7 +2,6 @@
 // text belong together. The code page's ICU converter decides; there are no tables of our own.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -13,9 +12,10 @@ namespace mv::codepage {
 
 // Reads narrow text in a code page piece by piece, so that long texts need no buffers of their
 // size: each piece gives wide units, each with the byte offset (in the whole text) of the
-// character it comes from; both units of a surrogate pair carry the same offset. Bytes that
-// start no valid character become U+FFFD, one per byte that ICU rejects, and are characters of
-// their own. The text must outlive the reader.
+// character it comes from; both units of a surrogate pair carry the same offset. Together the
+// pieces give the wide text ToWide gives; bytes that start no valid character (a lone lead byte)
+// are substituted as ToWide substitutes them and are characters of their own. The text must outlive
+// the reader, which reads with its thread's cached converter and belongs to that thread.
 class TNarrowReader {
  public:
   // Throws ECodePageError for an unknown code page.
