@@ -12,7 +12,7 @@ namespace {
 constexpr size_t kMaxNumber = 65535;
 
 // One conversion as written: "%" [index ":"] ["-"] [width] ["." precision] conversion.
-struct TSpec {
+struct TDirective {
   size_t position = 0;  // of the "%", counted from 0
   std::optional<size_t> index;
   bool left = false;
@@ -44,23 +44,23 @@ std::u16string ArgText(const std::u16string& s, char16_t) {
   return s;
 }
 
-std::string IntegerDigits(const TSpec& spec, int64_t value) {
+std::string IntegerDigits(const TDirective& directive, int64_t value) {
   auto magnitude = static_cast<uint64_t>(value);
-  bool negative = spec.conversion == 'd' && value < 0;
+  bool negative = directive.conversion == 'd' && value < 0;
   if (negative) magnitude = 0 - magnitude;
   char buffer[32];
-  auto end =
-      std::to_chars(buffer, buffer + sizeof buffer, magnitude, spec.conversion == 'x' ? 16 : 10)
-          .ptr;
+  auto end = std::to_chars(buffer, buffer + sizeof buffer, magnitude,
+                           directive.conversion == 'x' ? 16 : 10)
+                 .ptr;
   std::string digits(buffer, end);
   for (char& c : digits) c = (c >= 'a' && c <= 'f') ? static_cast<char>(c - 'a' + 'A') : c;
-  if (spec.precision && digits.size() < *spec.precision)
-    digits.insert(0, *spec.precision - digits.size(), '0');
+  if (directive.precision && digits.size() < *directive.precision)
+    digits.insert(0, *directive.precision - digits.size(), '0');
   if (negative) digits.insert(digits.begin(), '-');
   return digits;
 }
 
-std::string FloatDigits(const TSpec& spec, double value) {
+std::string FloatDigits(const TDirective& directive, double value) {
   static constexpr struct {
     char conversion;
     TFloatFormat format;
@@ -71,12 +71,12 @@ std::string FloatDigits(const TSpec& spec, double value) {
                  {'n', ffNumber, 2},
                  {'m', ffCurrency, 2}};
   for (const auto& f : kFloats) {
-    if (f.conversion == spec.conversion) {
-      int digits = spec.precision ? static_cast<int>(*spec.precision) : f.digits;
+    if (f.conversion == directive.conversion) {
+      int digits = directive.precision ? static_cast<int>(*directive.precision) : f.digits;
       return _MV_FToStr(value, f.format, digits);
     }
   }
-  Fail(spec.position, "no floating-point conversion");
+  Fail(directive.position, "no floating-point conversion");
 }
 
 template <class Char>
@@ -101,8 +101,8 @@ class TFormatter {
         ++i;
         continue;
       }
-      TSpec spec = Parse(percent, i);
-      out.append(Field(spec));
+      TDirective directive = Parse(percent, i);
+      out.append(Field(directive));
     }
     return out;
   }
@@ -121,30 +121,30 @@ class TFormatter {
     return value;
   }
 
-  TSpec Parse(size_t percent, size_t& i) const {
-    TSpec spec;
-    spec.position = percent;
+  TDirective Parse(size_t percent, size_t& i) const {
+    TDirective directive;
+    directive.position = percent;
     bool haveWidth = false;
     if (IsDigit(i)) {
       size_t n = Number(percent, i);
       if (i < format_.size() && format_[i] == Char(':')) {
-        spec.index = n;
+        directive.index = n;
         ++i;
       } else {
-        spec.width = n;
+        directive.width = n;
         haveWidth = true;
       }
     }
     if (!haveWidth) {
       if (i < format_.size() && format_[i] == Char('-')) {
-        spec.left = true;
+        directive.left = true;
         ++i;
       }
-      spec.width = Number(percent, i);
+      directive.width = Number(percent, i);
     }
     if (i < format_.size() && format_[i] == Char('.')) {
       ++i;
-      spec.precision = Number(percent, i);
+      directive.precision = Number(percent, i);
     }
     if (i >= format_.size()) Fail(percent, "conversion missing at the end");
     Char c = format_[i++];
@@ -152,46 +152,47 @@ class TFormatter {
     if (c > Char('z') ||
         std::string_view("sduxgefnm").find(static_cast<char>(c)) == std::string_view::npos)
       Fail(percent, "unknown conversion");
-    spec.conversion = static_cast<char>(c);
-    return spec;
+    directive.conversion = static_cast<char>(c);
+    return directive;
   }
 
-  const TFormatArg& Take(const TSpec& spec) {
-    if (spec.index) next_ = *spec.index;
+  const TFormatArg& Take(const TDirective& directive) {
+    if (directive.index) next_ = *directive.index;
     if (next_ >= args_.size())
-      Fail(spec.position, "missing argument " + std::to_string(next_) + " (counted from 0)");
+      Fail(directive.position, "missing argument " + std::to_string(next_) + " (counted from 0)");
     return args_[next_++];
   }
 
-  TText Converted(const TSpec& spec) {
-    const TFormatArg& arg = Take(spec);
-    const std::string kind(1, spec.conversion);
-    switch (spec.conversion) {
+  TText Converted(const TDirective& directive) {
+    const TFormatArg& arg = Take(directive);
+    const std::string kind(1, directive.conversion);
+    switch (directive.conversion) {
       case 's': {
         if (std::holds_alternative<std::string>(arg))
-          return Cut(ArgText(std::get<std::string>(arg), Char()), spec.precision);
+          return Cut(ArgText(std::get<std::string>(arg), Char()), directive.precision);
         if (std::holds_alternative<std::u16string>(arg))
-          return Cut(ArgText(std::get<std::u16string>(arg), Char()), spec.precision);
-        Fail(spec.position, "\"%s\" needs a text");
+          return Cut(ArgText(std::get<std::u16string>(arg), Char()), directive.precision);
+        Fail(directive.position, "\"%s\" needs a text");
       }
       case 'd':
       case 'u':
       case 'x':
         if (!std::holds_alternative<int64_t>(arg))
-          Fail(spec.position, "\"%" + kind + "\" needs an integer");
-        return OutText(IntegerDigits(spec, std::get<int64_t>(arg)), Char());
+          Fail(directive.position, "\"%" + kind + "\" needs an integer");
+        return OutText(IntegerDigits(directive, std::get<int64_t>(arg)), Char());
       case 'g':
       case 'e':
       case 'f':
       case 'n':
       case 'm':
         if (std::holds_alternative<double>(arg))
-          return OutText(FloatDigits(spec, std::get<double>(arg)), Char());
+          return OutText(FloatDigits(directive, std::get<double>(arg)), Char());
         if (std::holds_alternative<int64_t>(arg))
-          return OutText(FloatDigits(spec, static_cast<double>(std::get<int64_t>(arg))), Char());
-        Fail(spec.position, "\"%" + kind + "\" needs a number");
+          return OutText(FloatDigits(directive, static_cast<double>(std::get<int64_t>(arg))),
+                         Char());
+        Fail(directive.position, "\"%" + kind + "\" needs a number");
       default:
-        Fail(spec.position, "unknown conversion");
+        Fail(directive.position, "unknown conversion");
     }
   }
 
@@ -201,13 +202,13 @@ class TFormatter {
     return text;
   }
 
-  TText Field(const TSpec& spec) {
-    TText text = Converted(spec);
-    if (spec.width == 0) return text;
+  TText Field(const TDirective& directive) {
+    TText text = Converted(directive);
+    if (directive.width == 0) return text;
     size_t length = detail::IndexOf(text).Count();
-    if (length >= spec.width) return text;
-    TText blanks(spec.width - length, Char(' '));
-    return spec.left ? text + blanks : blanks + text;
+    if (length >= directive.width) return text;
+    TText blanks(directive.width - length, Char(' '));
+    return directive.left ? text + blanks : blanks + text;
   }
 
   std::basic_string_view<Char> format_;
