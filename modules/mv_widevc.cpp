@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "modules/mv_codepage.h"
+#include "modules/mv_str_quote.h"
 
 namespace mv::modules {
 namespace {
@@ -20,15 +21,6 @@ std::u16string WithoutMarks(std::u16string_view w) {
   std::u16string out(w);
   out.erase(std::remove(out.begin(), out.end(), WideLiteralMark), out.end());
   return out;
-}
-
-void AppendNationalLiteral(std::u16string_view text, std::u16string& out) {
-  out += u"N'";
-  for (char16_t c : text) {
-    if (c == u'\'') out += u'\'';
-    out += c;
-  }
-  out += u'\'';
 }
 
 }  // namespace
@@ -75,7 +67,7 @@ std::u16string MV_WideVcLiteralsToSql(std::u16string_view vc) {
     if (open == std::u16string::npos) break;
     const size_t close = text.find(WideLiteralMark, open + 1);  // exists: the marks pair up
     out.append(text, from, open - from);
-    AppendNationalLiteral(std::u16string_view(text).substr(open + 1, close - open - 1), out);
+    out += MV_NQuotedStr(std::u16string_view(text).substr(open + 1, close - open - 1));
     from = close + 1;
   }
   out.append(text, from);

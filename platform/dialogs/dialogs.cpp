@@ -32,15 +32,16 @@ const char* KindName(TMsgDlgType kind) {
 
 TMsgDlgBtn ConsoleDialogProvider::Show(const DialogRequest& request) {
   std::string line = codepage::Utf8FromWide(request.caption);
-  if (const char* kind = KindName(request.kind); *kind != '\0')
-    line += std::string(" (") + kind + ")";
-  line += ": " + codepage::Utf8FromWide(request.text) + " [";
-  bool first = true;
-  for (TMsgDlgBtn b : request.buttons.List()) {
-    line += (first ? "" : "/") + std::string(ButtonName(b));
-    first = false;
+  if (const char* kind = KindName(request.kind); *kind != '\0') {
+    line.append(" (").append(kind).append(")");
   }
-  line += "]\n";
+  line.append(": ").append(codepage::Utf8FromWide(request.text)).append(" [");
+  const char* separator = "";
+  for (TMsgDlgBtn b : request.buttons.List()) {
+    line.append(separator).append(ButtonName(b));
+    separator = "/";
+  }
+  line.append("]\n");
   std::fwrite(line.data(), 1, line.size(), stderr);
   std::fflush(stderr);
   return request.defaultButton;
