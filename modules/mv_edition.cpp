@@ -6,8 +6,11 @@
 namespace mv::modules {
 
 bool MV_IsHalvo(const std::string& iniPath) {
-  ini::TIniFile ini(iniPath);
-  return MV_SameText(ini.ReadString("System", "Edition", ""), "Halvo");
+  return MV_IsHalvo(ini::TIniFile(iniPath));
+}
+
+bool MV_IsHalvo(const ini::TIniFile& systemIni) {
+  return MV_SameText(systemIni.ReadString("System", "Edition", ""), "Halvo");
 }
 
 }  // namespace mv::modules

@@ -10,6 +10,7 @@
 #include "common/text/lang_changer.h"
 #include "common/text/messages.h"
 #include "common/text/str_utils.h"
+#include "modules/mv_edition.h"
 #include "platform/files/paths.h"
 #include "platform/ini/ini_file.h"
 
@@ -19,7 +20,9 @@ namespace {
 constexpr size_t kRecipientLength = 35;
 constexpr size_t kVersionLength = 20;
 
-std::unique_ptr<TStringList> NewList() { return std::make_unique<TStringList>(); }
+std::unique_ptr<TStringList> NewList() {
+  return std::make_unique<TStringList>();
+}
 
 // A recipient identity: blanks around removed, upper-cased, at most 35 characters.
 std::string RecipientIdentity(const std::string& value) {
@@ -86,7 +89,8 @@ void ReadFirstTable(const ini::TIniFile& ini, bool quenta) {
   Advance.EDIOutPath = ini.ReadString("Advance", "EDIOutPath", BasePath + "OUTBOX");
   Advance.UpgradePath = ini.ReadString("Advance", "UpgradePath", BasePath + "UPGRADE");
   Advance.WarnTDEC = ini.ReadBool("Advance", "WarnTDEC", true);
-  Advance.SupportTypeB = IsHalvo() || ini.ReadBool("Advance", "SupportTypeB", false);
+  // The Halvo edition always supports type B; the open file answers the edition question.
+  Advance.SupportTypeB = modules::MV_IsHalvo(ini) || ini.ReadBool("Advance", "SupportTypeB", false);
   Advance.SecurePath = ini.ReadString("Advance", "SecurePath", BasePath + "SEC");
 
   // The message folders get their final separator (an empty UpgradePath stays empty, meaning
@@ -194,8 +198,12 @@ int32_t SentboxRefreshSeconds(double value) {
   return seconds >= INT32_MAX ? INT32_MAX : static_cast<int32_t>(seconds);
 }
 
-void InitRecord() { LoadSettings(false); }
+void InitRecord() {
+  LoadSettings(false);
+}
 
-void InitRecord_Quenta() { LoadSettings(true); }
+void InitRecord_Quenta() {
+  LoadSettings(true);
+}
 
 }  // namespace mv
