@@ -1,0 +1,76 @@
+#include "common/search/query_text.h"
+
+#include "common/search/wildcard.h"
+#include "common/search/wildcard_terms.h"
+#include "common/text/conversions.h"
+
+namespace mv {
+namespace {
+
+template <class Char>
+std::basic_string<Char> DoubledQuotes(std::basic_string_view<Char> text) {
+  std::basic_string<Char> out;
+  out.reserve(text.size() + 2);
+  for (Char c : text) {
+    out += c;
+    if (c == Char('\'')) out += c;
+  }
+  return out;
+}
+
+// The value escaped for a like condition with Escape '!' and its quotes doubled; "*" and "?"
+// stay as they are, as the value holds no wildcards.
+std::u16string EscapedValue(std::u16string_view value) {
+  std::u16string out;
+  for (char16_t c : value) {
+    if (c == u'!' || c == u'_' || c == u'%' || c == u'[') out += search::WildEscapeChar;
+    out += c;
+    if (c == u'\'') out += c;
+  }
+  return out;
+}
+
+}  // namespace
+
+std::u16string AddWildCard(std::string_view fieldName, std::u16string_view pattern,
+                           std::string_view joiner) {
+  std::u16string condition = ChangeWildCard(fieldName, pattern, false, true);
+  if (condition.empty()) return {};
+  return u" " + MV_AnsiToWideString(joiner) + u" " + condition;
+}
+
+std::string StrSQLCond(std::string_view fieldName, std::u16string_view value) {
+  const std::string field(fieldName);
+  if (value.empty()) return "((" + field + " = '') or (" + field + " IS NULL))";
+  const std::u16string text = RepeatColonAfterOddDBQuote(EscapedValue(value));
+  const std::string literal = MV_WideStringToAnsi(text);
+  if (text.find(search::WildEscapeChar) == std::u16string::npos)
+    return "(" + field + " = '" + literal + "')";
+  return "(" + field + " like '" + literal + "' Escape '!')";
+}
+
+std::u16string RepeatColonAfterOddDBQuote(std::u16string_view text) {
+  if (text.find(u'"') == std::u16string_view::npos || text.find(u':') == std::u16string_view::npos)
+    return std::u16string(text);
+  std::u16string out;
+  out.reserve(text.size() + 4);
+  bool inside = false;
+  for (char16_t c : text) {
+    if (c == u'"') inside = !inside;
+    if (c == u':' && inside) out += c;
+    out += c;
+  }
+  return out;
+}
+
+std::u16string CheckQuot(std::u16string_view text) {
+  return DoubledQuotes(text);
+}
+
+// The quote byte never stands as the second byte of a double-byte character in the code pages
+// the client uses (Big5, GBK and UTF-8 second bytes are 0x40 and above), so bytes will do.
+std::string CheckQuot(std::string_view text) {
+  return DoubledQuotes(text);
+}
+
+}  // namespace mv
