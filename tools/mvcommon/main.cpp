@@ -14,8 +14,8 @@ namespace {
 
 using mv::cli::Command;
 
-constexpr std::array<const Command*, 2> kCommands = {&mv::cli::kSettingsCommand,
-                                                     &mv::cli::kSeqCommand};
+constexpr std::array<const Command*, 3> kCommands = {
+    &mv::cli::kSettingsCommand, &mv::cli::kSeqCommand, &mv::cli::kWildcardCommand};
 
 constexpr std::string_view kUsage =
     "Usage: mvcommon COMMAND [OPTIONS] [ARGUMENTS]\n"
@@ -23,6 +23,7 @@ constexpr std::string_view kUsage =
     "Commands:\n"
     "  settings   start the library as a client does and print its settings as JSON\n"
     "  seq        issue the next running number, or print a configured text\n"
+    "  wildcard   print the SQL condition of a search pattern\n"
     "\n"
     "\"mvcommon COMMAND --help\" describes a command and its options.\n";
 
@@ -45,7 +46,9 @@ const Command* FindCommand(std::string_view name) {
 
 int RunCommand(const Command& command, std::span<char* const> args) {
   try {
-    mv::cli::ParsedArgs parsed = mv::cli::ParseArgs(args, command.options);
+    mv::cli::ParsedArgs parsed = &command == &mv::cli::kWildcardCommand
+                                     ? mv::cli::ParseWildcardArgs(args)
+                                     : mv::cli::ParseArgs(args, command.options);
     if (parsed.help) {
       Print(stdout, command.usage);
       return 0;
