@@ -24,7 +24,9 @@ std::string ChangeWildCard(std::string_view fieldName, std::string_view pattern,
 
 std::u16string ChangeWildCard(std::string_view fieldName, std::u16string_view pattern,
                               bool doubleQuotes, bool markWideLiterals) {
-  const std::u16string text = MV_WideVcToWideString(pattern);
+  // The translator's marks are the only literal marks of its result: a mark in the pattern could
+  // only cut a literal short and let the user's text out of it, so it is dropped.
+  const std::u16string text = MV_WideStringToWideVc(MV_WideVcToWideString(pattern));
   if (text.empty()) return {};
   return MV_SetWideVc(search::TranslatePattern(MV_AnsiToWideString(fieldName), text, doubleQuotes,
                                                WideForm(markWideLiterals)));

@@ -19,7 +19,8 @@ std::string ChangeWildCard(std::string_view fieldName, std::string_view pattern,
 
 // The condition of the wide carrier `pattern` on narrow column `fieldName`, wide, passed through
 // MV_SetWideVc: literals as N'...' or, with `markWideLiterals`, between WideLiteralMark pairs
-// (the escape clause then follows the closing mark), for query code to turn into parameters.
+// (the escape clause then follows the closing mark), for query code to turn into parameters. A
+// WideLiteralMark in the pattern is dropped, so the user's text never leaves a literal.
 std::u16string ChangeWildCard(std::string_view fieldName, std::u16string_view pattern,
                               bool doubleQuotes, bool markWideLiterals);
 

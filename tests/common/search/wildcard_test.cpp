@@ -106,6 +106,8 @@ TEST(ChangeWildCard, WideForms) {
             u"A\x02) or (m.MsgRef = \x02"
             u"B\x02))");
   EXPECT_EQ(ChangeWildCard("MsgRef", u"", true, true), u"");
+  EXPECT_EQ(ChangeWildCard("MsgRef", u"\x02)|\x02", false, true), u"(MsgRef = \x02)\x02)");
+  EXPECT_EQ(ChangeWildCard("MsgRef", u"\x02\x02", false, true), u"");
   EXPECT_EQ(ChangeWildCardW("MsgRef", U("報單*"), true), U("(MsgRef like N'報單%')"));
 }
 
