@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/db/field_types.h"
 #include "platform/db/query.h"
@@ -86,6 +87,9 @@ class TMVADODataSet : public TMVADOQuery {
   TMVADODataSet();
   ~TMVADODataSet() override;
 
+  // The rows, fields and cursor, known only inside the database layer.
+  struct Impl;
+
   // Runs the command text and moves to the first row; calls the after-open event. Raises
   // EDatabaseError (the driver's message) when the text fails or the connection is not open.
   void Open();
@@ -160,13 +164,15 @@ class TMVADODataSet : public TMVADOQuery {
 
  private:
   friend class TField;
-  struct Impl;
 
   Variant ColumnValue(const TField& field);
   void SetColumnValue(const TField& field, const Variant& value);
   void MoveField(const TField& field, int index);
   int FieldIndex(const TField& field) const;
   void CheckOpen() const;
+  void CheckEditable() const;
+  // After a refresh: the fields of `old` keep their order, labels and visibility.
+  void KeepFieldSettings(std::vector<std::unique_ptr<TField>> old);
 
   std::unique_ptr<Impl> impl_;
   TCursorLocation cursorLocation_ = clUseClient;

@@ -1,0 +1,11 @@
+#include "platform/db/command.h"
+
+#include "platform/db/run_query.h"
+
+namespace mv::db {
+
+int TMVADOCommand::Execute() {
+  return RunQuery(*this, true).numRowsAffected();
+}
+
+}  // namespace mv::db

@@ -1,0 +1,167 @@
+#include "platform/db/dataset.h"
+
+#include <QtSql/QSqlRecord>
+
+#include "platform/db/dataset_impl.h"
+#include "platform/db/db_error.h"
+#include "platform/db/qt_values.h"
+#include "platform/db/run_query.h"
+
+namespace mv::db {
+namespace {
+
+TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types) {
+  TRow row;
+  row.reserve(types.size());
+  for (size_t i = 0; i < types.size(); ++i) {
+    row.push_back(FromQt(query.value(static_cast<int>(i)), types[i]));
+  }
+  return row;
+}
+
+}  // namespace
+
+TMVADODataSet::TMVADODataSet() : impl_(std::make_unique<Impl>()) {}
+
+TMVADODataSet::~TMVADODataSet() = default;
+
+void TMVADODataSet::CheckOpen() const {
+  if (impl_->state == dsInactive)
+    throw EDatabaseError("Cannot perform this operation on a closed dataset");
+}
+
+void TMVADODataSet::Open() {
+  if (Active()) return;
+  QSqlQuery query = RunQuery(*this, true);
+  const TBackend backend = Connection(ConnectionName()).Backend;
+  const QSqlRecord record = query.record();
+  std::vector<TFieldType> declared = DeclaredColumnTypes(ConnectionName(), query);
+  Impl fresh;
+  for (int i = 0; i < record.count(); ++i) {
+    TFieldType type = static_cast<size_t>(i) < declared.size() ? declared[i] : ftUnknown;
+    if (type == ftUnknown) type = FieldTypeOfQt(record.field(i), backend);
+    fresh.columnTypes.push_back(type);
+    fresh.columnNames.push_back(record.fieldName(i).toStdString());
+  }
+  if (cursorLocation_ == clUseClient) {
+    while (query.next()) fresh.rows.push_back(ReadRow(query, fresh.columnTypes));
+  } else {
+    if (query.next()) {
+      fresh.rows.push_back(ReadRow(query, fresh.columnTypes));
+      fresh.serverRecNo = 1;
+    }
+    fresh.cursor.emplace(std::move(query));
+  }
+  // Fields made last, so that a failure above leaves the dataset closed.
+  for (size_t i = 0; i < fresh.columnNames.size(); ++i) {
+    fresh.fields.emplace_back(
+        new TField(*this, static_cast<int>(i), fresh.columnNames[i], fresh.columnTypes[i]));
+  }
+  fresh.state = dsBrowse;
+  *impl_ = std::move(fresh);
+  if (afterOpen_) afterOpen_(*this);
+}
+
+void TMVADODataSet::Close() {
+  *impl_ = Impl();
+}
+
+void TMVADODataSet::Refresh() {
+  CheckOpen();
+  std::vector<std::unique_ptr<TField>> old = std::move(impl_->fields);
+  const TDataSetNotifyEvent afterOpen = std::move(afterOpen_);
+  afterOpen_ = nullptr;
+  Close();
+  try {
+    Open();
+  } catch (...) {
+    afterOpen_ = afterOpen;
+    throw;
+  }
+  afterOpen_ = afterOpen;
+  KeepFieldSettings(std::move(old));
+  if (afterRefresh_) afterRefresh_(*this);
+}
+
+void TMVADODataSet::KeepFieldSettings(std::vector<std::unique_ptr<TField>> old) {
+  std::vector<std::unique_ptr<TField>> fresh = std::move(impl_->fields);
+  std::vector<std::unique_ptr<TField>> ordered;
+  for (auto& field : old) {
+    if (field->Calculated()) {
+      ordered.push_back(std::move(field));
+      continue;
+    }
+    for (auto& candidate : fresh) {
+      if (candidate && candidate->FieldName() == field->FieldName()) {
+        candidate->SetDisplayLabel(field->DisplayLabel());
+        candidate->SetVisible(field->Visible());
+        ordered.push_back(std::move(candidate));
+        break;
+      }
+    }
+  }
+  for (auto& rest : fresh) {
+    if (rest) ordered.push_back(std::move(rest));
+  }
+  impl_->fields = std::move(ordered);
+}
+
+bool TMVADODataSet::Active() const {
+  return impl_->state != dsInactive;
+}
+
+void TMVADODataSet::SetActive(bool active) {
+  active ? Open() : Close();
+}
+
+TDataSetState TMVADODataSet::State() const {
+  return impl_->state;
+}
+
+bool TMVADODataSet::Eof() const {
+  if (impl_->state == dsInsert) return false;
+  return impl_->current >= impl_->rows.size();
+}
+
+bool TMVADODataSet::Bof() const {
+  return RecNo() <= 1;
+}
+
+void TMVADODataSet::Next() {
+  CheckOpen();
+  Post();
+  if (Eof()) return;
+  if (!impl_->cursor) {
+    ++impl_->current;
+    return;
+  }
+  impl_->rows.clear();
+  if (impl_->cursor->next()) {
+    impl_->rows.push_back(ReadRow(*impl_->cursor, impl_->columnTypes));
+    ++impl_->serverRecNo;
+  }
+}
+
+void TMVADODataSet::First() {
+  CheckOpen();
+  Post();
+  if (impl_->cursor) {
+    if (impl_->serverRecNo > 1 || (impl_->serverRecNo == 1 && impl_->rows.empty())) {
+      throw EDatabaseError("Operation is not allowed on a forward-only cursor");
+    }
+    return;
+  }
+  impl_->current = 0;
+}
+
+int TMVADODataSet::RecordCount() const {
+  if (!Active()) return 0;
+  return impl_->cursor ? -1 : static_cast<int>(impl_->rows.size());
+}
+
+int TMVADODataSet::RecNo() const {
+  if (Eof()) return 0;
+  return impl_->cursor ? impl_->serverRecNo : static_cast<int>(impl_->current) + 1;
+}
+
+}  // namespace mv::db

@@ -1,0 +1,143 @@
+// Editing a dataset: the row buffer and the statements that write it to its one table.
+#include "platform/db/dataset.h"
+#include "platform/db/dataset_impl.h"
+#include "platform/db/db_error.h"
+#include "platform/db/run_query.h"
+#include "platform/db/sql_text.h"
+
+namespace mv::db {
+namespace {
+
+std::u16string Quoted(const std::string& column) {
+  std::u16string out = u"[";
+  for (char16_t c : QString::fromStdString(column).toStdU16String()) {
+    out += c;
+    if (c == u']') out += u']';
+  }
+  return out + u"]";
+}
+
+// Columns that can name a row in a where clause: no long text, bytes or dates (whose stored
+// form may differ from the form read back).
+bool Comparable(TFieldType type) {
+  switch (type) {
+    case ftMemo:
+    case ftBytes:
+    case ftVarBytes:
+    case ftDate:
+    case ftTime:
+    case ftDateTime:
+    case ftUnknown:
+      return false;
+    default:
+      return true;
+  }
+}
+
+struct TStatement {
+  std::u16string Sql;
+  std::vector<TBoundValue> Values;
+};
+
+TStatement InsertStatement(const std::u16string& table, const TMVADODataSet::Impl& d) {
+  TStatement s;
+  std::u16string columns, places;
+  for (size_t i = 0; i < d.buffer.size(); ++i) {
+    if (!d.assigned[i]) continue;
+    columns += (columns.empty() ? u"" : u", ") + Quoted(d.columnNames[i]);
+    places += places.empty() ? u"?" : u", ?";
+    s.Values.push_back({d.buffer[i], d.columnTypes[i]});
+  }
+  s.Sql = u"INSERT INTO " + table +
+          (columns.empty() ? u" DEFAULT VALUES" : u" (" + columns + u") VALUES (" + places + u")");
+  return s;
+}
+
+TStatement UpdateStatement(const std::u16string& table, const TMVADODataSet::Impl& d,
+                           const TRow& old) {
+  TStatement s;
+  std::u16string sets, where;
+  for (size_t i = 0; i < d.buffer.size(); ++i) {
+    if (!d.assigned[i]) continue;
+    sets += (sets.empty() ? u"" : u", ") + Quoted(d.columnNames[i]) + u" = ?";
+    s.Values.push_back({d.buffer[i], d.columnTypes[i]});
+  }
+  for (size_t i = 0; i < old.size(); ++i) {
+    if (!Comparable(d.columnTypes[i])) continue;
+    where += (where.empty() ? u"" : u" AND ") + Quoted(d.columnNames[i]);
+    if (old[i].IsNull()) {
+      where += u" IS NULL";
+    } else {
+      where += u" = ?";
+      s.Values.push_back({old[i], d.columnTypes[i]});
+    }
+  }
+  if (sets.empty()) return {};
+  s.Sql = u"UPDATE " + table + u" SET " + sets + (where.empty() ? u"" : u" WHERE " + where);
+  return s;
+}
+
+}  // namespace
+
+void TMVADODataSet::CheckEditable() const {
+  CheckOpen();
+  if (lockType_ == ltReadOnly) throw EDatabaseError("Cannot modify a read-only dataset");
+  if (SingleTableOf(PrepareSql(CommandText()).Sql).empty()) {
+    throw EDatabaseError("Cannot modify the rows of a query that does not select from one table");
+  }
+}
+
+void TMVADODataSet::Edit() {
+  if (impl_->state == dsEdit) return;
+  CheckEditable();
+  Post();
+  if (Eof()) throw EDatabaseError("Cannot edit: the dataset has no current record");
+  impl_->buffer = *impl_->CurrentRow();
+  impl_->assigned.assign(impl_->buffer.size(), false);
+  impl_->state = dsEdit;
+}
+
+void TMVADODataSet::Insert() {
+  CheckEditable();
+  Post();
+  impl_->buffer.assign(impl_->columnNames.size(), Variant());
+  impl_->assigned.assign(impl_->buffer.size(), false);
+  impl_->appending = false;
+  impl_->state = dsInsert;
+}
+
+void TMVADODataSet::Append() {
+  Insert();
+  impl_->appending = true;
+}
+
+void TMVADODataSet::Post() {
+  Impl& d = *impl_;
+  if (d.state != dsEdit && d.state != dsInsert) return;
+  const std::u16string table = SingleTableOf(PrepareSql(CommandText()).Sql);
+  const TStatement s = d.state == dsInsert ? InsertStatement(table, d)
+                                           : UpdateStatement(table, d, d.rows[d.current]);
+  if (!s.Sql.empty()) {
+    const int changed =
+        RunSql(ConnectionName(), s.Sql, s.Values, CommandTimeout(), true).numRowsAffected();
+    if (d.state == dsEdit && changed == 0) {
+      throw EDatabaseError("Row cannot be located for updating: it was changed since it was read");
+    }
+  }
+  if (d.state == dsEdit) {
+    d.rows[d.current] = d.buffer;
+  } else if (d.cursor) {
+    d.rows.assign(1, d.buffer);  // a server cursor shows the new row until it moves on
+    d.current = 0;
+  } else {
+    d.current = d.appending ? d.rows.size() : std::min(d.current, d.rows.size());
+    d.rows.insert(d.rows.begin() + static_cast<long>(d.current), d.buffer);
+  }
+  d.state = dsBrowse;
+}
+
+void TMVADODataSet::Cancel() {
+  if (impl_->state == dsEdit || impl_->state == dsInsert) impl_->state = dsBrowse;
+}
+
+}  // namespace mv::db

@@ -1,0 +1,35 @@
+// The inside of a dataset. Private to the database layer.
+#pragma once
+
+#include <QtSql/QSqlQuery>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/db/dataset.h"
+
+namespace mv::db {
+
+using TRow = std::vector<Variant>;
+
+struct TMVADODataSet::Impl {
+  TDataSetState state = dsInactive;
+  std::vector<std::unique_ptr<TField>> fields;  // in field order
+  std::vector<TFieldType> columnTypes;          // by column of the row buffer
+  std::vector<std::string> columnNames;
+  // Client cursor: every row. Server cursor: the current row only (none at the end).
+  std::vector<TRow> rows;
+  size_t current = 0;               // index in rows; rows.size() at the end
+  std::optional<QSqlQuery> cursor;  // the server cursor
+  int serverRecNo = 0;              // 1-based number of the server cursor's row
+  TRow buffer;                      // the row being edited or inserted
+  std::vector<bool> assigned;       // columns set since Edit / Insert
+  bool appending = false;
+
+  const TRow* CurrentRow() const {
+    if (state == dsEdit || state == dsInsert) return &buffer;
+    return current < rows.size() ? &rows[current] : nullptr;
+  }
+};
+
+}  // namespace mv::db

@@ -1,0 +1,31 @@
+// Running SQL on a named connection through Qt. Private to the database layer.
+#pragma once
+
+#include <QtSql/QSqlQuery>
+#include <string>
+#include <vector>
+
+#include "platform/db/query.h"
+
+namespace mv::db {
+
+// A value to bind with the field type that says how (a date type binds numbers as dates).
+struct TBoundValue {
+  Variant Value;
+  TFieldType Type = ftUnknown;
+};
+
+// Runs `sql` (SQL Server's dialect, "?" places, no marks left) on `connection` with `values`
+// bound in order; `timeout` seconds (-1: the driver's). A forward-only query fetches rows as
+// asked. Raises EDatabaseError with the driver's message when the database refuses it.
+QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
+                 const std::vector<TBoundValue>& values, int timeout, bool forwardOnly);
+
+// Runs the command text of `query` with its parameters bound by name to their places.
+QSqlQuery RunQuery(const TMVADOQuery& query, bool forwardOnly);
+
+// The field types of the result columns of the run `query` as declared on a SQLite connection (what
+// Qt does not tell); empty for other connections or when they cannot be found.
+std::vector<TFieldType> DeclaredColumnTypes(const std::string& connection, const QSqlQuery& query);
+
+}  // namespace mv::db

@@ -1,0 +1,202 @@
+// One suite over both ways to the database: SQLite directly and SQLite through unixODBC.
+#include <gtest/gtest.h>
+
+#include "platform/db/dataset.h"
+#include "platform/db/db_error.h"
+#include "tests/platform/db/db_fixture.h"
+
+namespace mv::db {
+namespace {
+
+constexpr double kLunarNewYear = 45331.75;  // 2024-02-09 18:00
+
+template <typename Backend>
+class DataSetTest : public testing::Test {
+ protected:
+  DataSetTest() {
+    test::Exec(
+        "create table Msg (RefNo varchar(20), Subject nvarchar(50), Amount float, Qty int, "
+        "SentAt datetime, Flag char(1))");
+    AddRow("R1", u"Invoice", 10.5, 1, kLunarNewYear);
+    AddRow("R2", u"發票 台北", 20, 2, kLunarNewYear + 1);
+    AddRow("R3", u"Packing list", 30, 3, kLunarNewYear + 2);
+  }
+  static void AddRow(const char* ref, const char16_t* subject, double amount, int qty,
+                     double sent) {
+    TMVADOCommand c;
+    c.SetCommandText(
+        "insert into Msg (RefNo, Subject, Amount, Qty, SentAt) values (:r, :s, :a, :q, :d)");
+    c.Parameters()[0].Value = ref;
+    c.SetUnicodeParamValue(1, subject, false);
+    c.Parameters()[2].Value = amount;
+    c.Parameters()[3].Value = qty;
+    c.Parameters()[4].Value = TDateTime{sent};
+    EXPECT_EQ(c.Execute(), 1);
+  }
+  void OpenAll(TCursorLocation location = clUseClient) {
+    ds_.SetCursorLocation(location);
+    ds_.SetCommandText("select RefNo, Subject, Amount, Qty, SentAt, Flag from Msg order by RefNo");
+    ds_.Open();
+  }
+
+  test::TempDir dir_;
+  Backend backend_{dir_};
+  TMVADODataSet ds_;
+};
+
+using Backends = testing::Types<test::SqliteBackend, test::OdbcBackend>;
+TYPED_TEST_SUITE(DataSetTest, Backends);
+
+TYPED_TEST(DataSetTest, WideTextAndDatesMakeTheRoundTripThroughParameters) {
+  auto& ds = this->ds_;
+  ds.SetCommandText(u"select Subject, SentAt from Msg where Subject = :s and SentAt >= :d");
+  ASSERT_EQ(ds.Parameters().Count(), 2);
+  ds.SetUnicodeParamValue(0, u"\x02發票 台北\x02", true);
+  ds.Parameters().ParamByName("D").Value = TDateTime{kLunarNewYear + 1};
+  ds.Open();
+  ASSERT_EQ(ds.RecordCount(), 1);
+  EXPECT_EQ(ds.FieldByName("subject").AsWideString(), u"發票 台北");
+  EXPECT_EQ(ds.GetUnicodeFieldValue(0, false), u"發票 台北");
+  EXPECT_EQ(ds.FieldByName("SentAt").AsDateTime().Days, kLunarNewYear + 1);
+  EXPECT_EQ(ds.FieldByName("SentAt").DataType(), ftDateTime);
+}
+
+TYPED_TEST(DataSetTest, ClientCursorCountsAndWalksServerCursorOnlyForward) {
+  auto& ds = this->ds_;
+  this->OpenAll(clUseClient);
+  EXPECT_EQ(ds.RecordCount(), 3);
+  int seen = 0;
+  for (; !ds.Eof(); ds.Next()) ++seen;
+  EXPECT_EQ(seen, 3);
+  ds.First();
+  EXPECT_EQ(ds.RecNo(), 1);
+  ds.Close();
+  this->OpenAll(clUseServer);
+  EXPECT_EQ(ds.RecordCount(), -1);
+  ds.First();  // still on the first row: allowed
+  ds.Next();
+  EXPECT_EQ(ds.FieldByName("RefNo").AsString(), "R2");
+  EXPECT_THROW(ds.First(), EDatabaseError);
+  ds.Next();
+  ds.Next();
+  EXPECT_TRUE(ds.Eof());
+  EXPECT_TRUE(ds.FieldByName("RefNo").IsNull());
+}
+
+TYPED_TEST(DataSetTest, LocateFindsByTextAndNumberAndStaysWhenAbsent) {
+  auto& ds = this->ds_;
+  this->OpenAll();
+  ds.Next();
+  EXPECT_TRUE(ds.Locate("Qty", 3));
+  EXPECT_EQ(ds.RecNo(), 3);
+  EXPECT_TRUE(ds.Locate("Subject", u"Invoice"));
+  EXPECT_EQ(ds.RecNo(), 1);
+  EXPECT_FALSE(ds.Locate("Subject", u"invoice"));
+  EXPECT_EQ(ds.RecNo(), 1);
+  EXPECT_TRUE(ds.Locate("SentAt", TDateTime{kLunarNewYear + 2}));
+  EXPECT_THROW(ds.Locate("Nope", 1), EDatabaseError);
+}
+
+TYPED_TEST(DataSetTest, FieldsKeepTheirSettingsAndMoveAcrossRefresh) {
+  auto& ds = this->ds_;
+  int opened = 0, refreshed = 0;
+  ds.SetAfterOpen([&](TMVADODataSet& d) { opened += d.RecordCount(); });
+  ds.SetAfterRefresh([&](TMVADODataSet&) { ++refreshed; });
+  this->OpenAll();
+  EXPECT_EQ(opened, 3);
+  ASSERT_EQ(ds.FieldCount(), 6);
+  EXPECT_EQ(ds.Fields(0).DataType(), ftString);
+  EXPECT_EQ(ds.Fields(3).DataType(), ftInteger);
+  EXPECT_EQ(ds.FieldByName("Amount").DataType(), ftFloat);
+  ds.FieldByName("Qty").SetIndex(0);
+  ds.FieldByName("Subject").SetDisplayLabel("主旨");
+  ds.FieldByName("Flag").SetVisible(false);
+  ds.FieldByName("Amount").SetIndex(99);
+  ds.AddCalculatedField("Double", ftFloat, [](TMVADODataSet& d) {
+    return Variant(d.FieldByName("Amount").AsFloat() * 2);
+  });
+  EXPECT_TRUE(ds.FieldByName("Double").Calculated());
+  EXPECT_EQ(ds.FieldByName("Double").AsFloat(), 21);
+  test::Exec("insert into Msg (RefNo) values ('R4')");
+  ds.Refresh();
+  EXPECT_EQ(refreshed, 1);
+  EXPECT_EQ(opened, 3);  // a refresh is not an open
+  EXPECT_EQ(ds.RecordCount(), 4);
+  EXPECT_EQ(ds.Fields(0).FieldName(), "Qty");
+  EXPECT_EQ(ds.Fields(5).FieldName(), "Amount");
+  EXPECT_EQ(ds.FieldByName("Subject").DisplayLabel(), "主旨");
+  EXPECT_EQ(ds.FieldByName("RefNo").DisplayLabel(), "RefNo");
+  EXPECT_FALSE(ds.FieldByName("Flag").Visible());
+  EXPECT_EQ(ds.Fields(6).FieldName(), "Double");
+  ds.SetAfterOpen(nullptr);
+  EXPECT_FALSE(ds.AfterOpen());
+}
+
+TYPED_TEST(DataSetTest, EditPostWritesOnlyTheEditedRow) {
+  auto& ds = this->ds_;
+  this->OpenAll();
+  ds.Next();
+  ds.Edit();
+  EXPECT_EQ(ds.State(), dsEdit);
+  ds.FieldByName("Subject").SetAsWideString(u"裝箱單");
+  ds.FieldByName("SentAt").SetAsDateTime(TDateTime{kLunarNewYear + 10});
+  ds.Post();
+  EXPECT_EQ(ds.State(), dsBrowse);
+  TMVADODataSet check;
+  check.SetCommandText("select RefNo, Subject, SentAt from Msg where Subject = :s");
+  check.SetUnicodeParamValue(0, u"裝箱單", false);
+  check.Open();
+  ASSERT_EQ(check.RecordCount(), 1);
+  EXPECT_EQ(check.Fields(0).AsString(), "R2");
+  EXPECT_EQ(check.Fields(2).AsDateTime().Days, kLunarNewYear + 10);
+}
+
+TYPED_TEST(DataSetTest, CancelDropsEditsAndInsertAppendsARow) {
+  auto& ds = this->ds_;
+  this->OpenAll();
+  ds.Edit();
+  ds.FieldByName("RefNo").SetAsString("XX");
+  ds.Cancel();
+  EXPECT_EQ(ds.FieldByName("RefNo").AsString(), "R1");
+  EXPECT_THROW(ds.FieldByName("RefNo").SetAsString("YY"), EDatabaseError);
+  ds.Append();
+  EXPECT_EQ(ds.State(), dsInsert);
+  EXPECT_TRUE(ds.FieldByName("RefNo").IsNull());
+  ds.FieldByName("RefNo").SetAsString("R9");
+  ds.FieldByName("Qty").SetAsInteger(9);
+  ds.Post();
+  EXPECT_EQ(ds.RecordCount(), 4);
+  EXPECT_EQ(ds.RecNo(), 4);
+  ds.Refresh();
+  EXPECT_TRUE(ds.Locate("RefNo", "R9"));
+  EXPECT_EQ(ds.FieldByName("Qty").AsInteger(), 9);
+}
+
+TYPED_TEST(DataSetTest, ReadOnlyAndJoinedSelectsRefuseEdits) {
+  auto& ds = this->ds_;
+  ds.SetReadOnly(true);
+  this->OpenAll();
+  EXPECT_THROW(ds.Edit(), EDatabaseError);
+  ds.Close();
+  ds.SetReadOnly(false);
+  ds.SetCommandText("select a.RefNo from Msg a, Msg b where a.RefNo = b.RefNo");
+  ds.Open();
+  EXPECT_THROW(ds.Insert(), EDatabaseError);
+  EXPECT_EQ(ds.State(), dsBrowse);
+}
+
+TYPED_TEST(DataSetTest, BadSqlRaisesTheDriverMessageAndLeavesTheDatasetClosed) {
+  auto& ds = this->ds_;
+  ds.SetCommandText("select Nope from Msg");
+  try {
+    ds.Open();
+    FAIL() << "no error";
+  } catch (const EDatabaseError& e) {
+    EXPECT_NE(std::string(e.what()).find("Nope"), std::string::npos) << e.what();
+  }
+  EXPECT_FALSE(ds.Active());
+  EXPECT_EQ(ds.RecordCount(), 0);
+}
+
+}  // namespace
+}  // namespace mv::db
