@@ -58,6 +58,14 @@ TEST(WildcardCommand, PrintsTheConditionOfEachTranslator) {
   EXPECT_EQ(RunWildcard({"F", "O'N"}).out, "(F = 'O''N')\n");
 }
 
+TEST(WildcardCommand, ParamsListsTheParametersInOrder) {
+  EXPECT_EQ(RunWildcard({"--params", "MsgRef", "50%|A..M"}).out,
+            "((MsgRef like :pTmp1 Escape '!') or ((MsgRef >= :pTmp2) and (MsgRef <= :pTmp3)))\n"
+            "pTmp1\t50!%\npTmp2\tA\npTmp3\tM\n");
+  EXPECT_EQ(RunWildcard({"--params", "F", "O'報*"}).out, "(F like :pTmp1)\npTmp1\tO'報%\n");
+  EXPECT_EQ(RunWildcard({"--params", "F", "|"}).out, "\n");
+}
+
 TEST(WildcardCommand, EmptyConditionAndDashedPatterns) {
   const RunResult none = RunWildcard({"MsgRef", ".."});
   EXPECT_EQ(none.exitCode, 0);
@@ -66,8 +74,10 @@ TEST(WildcardCommand, EmptyConditionAndDashedPatterns) {
 }
 
 TEST(WildcardCommand, CommandLinesItCannotFollow) {
-  for (const std::vector<std::string>& args :
-       {std::vector<std::string>{"F"}, {"--mark", "F", "A"}, {"--bogus", "F", "A"}}) {
+  for (const std::vector<std::string>& args : {std::vector<std::string>{"F"},
+                                               {"--mark", "F", "A"},
+                                               {"--bogus", "F", "A"},
+                                               {"--params", "--wide", "F", "A"}}) {
     const RunResult result = RunWildcard(args);
     EXPECT_EQ(result.exitCode, 2) << args[0];
     EXPECT_NE(result.err.find("Usage: mvcommon wildcard"), std::string::npos);

@@ -5,7 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "common/search/param_list.h"
 #include "common/search/wildcard.h"
+#include "common/text/conversions.h"
 #include "platform/codepage/codepage.h"
 #include "tools/mvcommon/commands.h"
 
@@ -14,20 +16,26 @@ namespace {
 
 constexpr std::string_view kUsage =
     "Usage: mvcommon wildcard [--wide] [--mark] [--no-double-quotes] COLUMN PATTERN\n"
+    "       mvcommon wildcard --params COLUMN PATTERN\n"
     "\n"
     "Prints the SQL condition that ChangeWildCard makes of PATTERN for COLUMN, and a line end;\n"
     "a pattern that gives no condition prints an empty line. In a pattern \"*\" stands for any\n"
     "characters, \"?\" for one, \"|\" separates alternatives and \"..\" the bounds of a range.\n"
     "COLUMN, PATTERN and the output are UTF-8.\n"
     "\n"
+    "With --params, prints what AddWildCard appends to a query without parameters: the\n"
+    "condition with parameters in place of the pattern's words on the first line, then one\n"
+    "line per parameter: its name, a tab and its value.\n"
+    "\n"
     "Options:\n"
     "  --wide               the wide translator, literals written N'...'\n"
     "  --mark               with --wide: literals between WideLiteralMark characters (U+0002,\n"
     "                       printed raw)\n"
     "  --no-double-quotes   leave quotes of the pattern single\n"
+    "  --params             the condition as AddWildCard attaches it, and its parameters\n"
     "  -h, --help           show this text\n";
 
-constexpr std::string_view kSwitches[] = {"--wide", "--mark", "--no-double-quotes"};
+constexpr std::string_view kSwitches[] = {"--wide", "--mark", "--no-double-quotes", "--params"};
 
 void PrintLine(const std::string& utf8) {
   const std::string line = utf8 + "\n";
@@ -38,17 +46,34 @@ std::string Narrow(const std::string& utf8) {
   return codepage::FromWide(codepage::WideFromUtf8(utf8), codepage::UserCodePage());
 }
 
+// The pattern as a carrier of plain text: a U+0002 typed into it opens no literal.
+std::u16string Pattern(const std::string& utf8) {
+  return MV_WideStringToWideVc(codepage::WideFromUtf8(utf8));
+}
+
+int RunParams(const std::string& column, const std::string& pattern) {
+  TParamList params;
+  PrintLine(codepage::Utf8FromWide(
+      GetWildCard(ChangeWildCard(column, Pattern(pattern), false, true), true, params)));
+  for (size_t i = 0; i < params.size(); ++i)
+    PrintLine("pTmp" + std::to_string(i + 1) + "\t" +
+              codepage::Utf8FromWide(params[i].Value.AsWideString()));
+  return 0;
+}
+
 int Run(const ParsedArgs& args) {
   if (args.positionals.size() != 2) throw UsageError("COLUMN and PATTERN are needed");
+  if (args.Option("params") && args.options.size() > 1)
+    throw UsageError("--params takes no other option");
   const bool wide = args.Option("wide").has_value();
   const bool mark = args.Option("mark").has_value();
   const bool doubleQuotes = !args.Option("no-double-quotes").has_value();
   if (mark && !wide) throw UsageError("--mark needs --wide");
   const std::string column = Narrow(args.positionals[0]);
   const std::string& pattern = args.positionals[1];
+  if (args.Option("params")) return RunParams(column, pattern);
   if (wide) {
-    PrintLine(codepage::Utf8FromWide(
-        ChangeWildCard(column, codepage::WideFromUtf8(pattern), doubleQuotes, mark)));
+    PrintLine(codepage::Utf8FromWide(ChangeWildCard(column, Pattern(pattern), doubleQuotes, mark)));
   } else {
     const std::string condition = ChangeWildCard(column, Narrow(pattern), doubleQuotes);
     PrintLine(codepage::Utf8FromWide(codepage::ToWide(condition, codepage::UserCodePage())));
