@@ -5,6 +5,7 @@
 #include "common/text/text_resources.h"
 #include "modules/mv_dialogs.h"
 #include "platform/codepage/codepage.h"
+#include "platform/db/dataset.h"
 
 namespace mv {
 namespace {
@@ -96,6 +97,17 @@ void ConfirmDelete(std::string_view name) {
   const modules::TFormatArg asGiven[] = {std::string(name)};
   const modules::TFormatArg changed[] = {ChangeCase(name)};
   if (!modules::MV_Confirm(LoadCStrW(2000, asGiven), LoadCStrW(2001, changed))) throw EAbort();
+}
+
+void ConfirmSave(std::string_view name, db::TMVADODataSet& dataset) {
+  if (dataset.State() != db::dsEdit && dataset.State() != db::dsInsert) return;
+  const modules::TFormatArg asGiven[] = {std::string(name)};
+  const modules::TFormatArg changed[] = {ChangeCase(name)};
+  if (modules::MV_Confirm(LoadCStrW(2002, asGiven), LoadCStrW(2003, changed))) {
+    dataset.Post();
+  } else {
+    dataset.Cancel();
+  }
 }
 
 }  // namespace mv

@@ -10,6 +10,10 @@
 
 #include "platform/dialogs/dialogs.h"
 
+namespace mv::db {
+class TMVADODataSet;
+}
+
 namespace mv {
 
 // Shows the text with one OK button and the icon of `kind`.
@@ -65,5 +69,10 @@ bool MyInputQuery(std::string_view caption, std::u16string_view prompt, std::u16
 // text catalogue, formatted with the name (the question with the name after ChangeCase). Returns
 // when the user answers Yes; raises EAbort (the quiet abort) otherwise.
 void ConfirmDelete(std::string_view name);
+
+// When `dataset` is editing or inserting a row: asks whether to save `name` (narrow text), caption
+// text 2002 and question text 2003 formatted as ConfirmDelete's; Yes posts the row, No cancels
+// the edit. In any other state nothing is shown and nothing changes.
+void ConfirmSave(std::string_view name, db::TMVADODataSet& dataset);
 
 }  // namespace mv

@@ -2,6 +2,7 @@
 
 #include "modules/mv_str_pad.h"
 #include "modules/mv_strings.h"
+#include "modules/mv_totals.h"
 
 namespace mv {
 
@@ -106,6 +107,10 @@ int Match(std::u16string_view s1, std::u16string_view s2) {
 
 std::string FToStr(double value, modules::TFloatFormat format, int digits) {
   return modules::_MV_FToStr(value, format, digits);
+}
+
+double Totals(db::TMVADODataSet& dataset, std::string_view field) {
+  return modules::_MV_Totals(dataset, field);
 }
 
 }  // namespace mv

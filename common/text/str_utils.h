@@ -20,6 +20,10 @@
 #include "modules/mv_str_replace.h"
 #include "modules/mv_str_wrap.h"
 
+namespace mv::db {
+class TMVADODataSet;
+}
+
 namespace mv {
 
 // The text without trailing / leading / leading and trailing blanks (spaces).
@@ -108,6 +112,9 @@ using modules::MV_WideWrapText;
 using modules::rfIgnoreCase;
 using modules::rfReplaceAll;
 using modules::TFloatFormat;
+// The sum of a numeric field over the rows of a dataset, as _MV_Totals (modules/mv_totals.h).
+double Totals(db::TMVADODataSet& dataset, std::string_view field);
+
 using modules::TFormatArg;
 using modules::TFormatArgs;
 using modules::TReplaceFlags;

@@ -164,4 +164,14 @@ int TMVADODataSet::RecNo() const {
   return impl_->cursor ? impl_->serverRecNo : static_cast<int>(impl_->current) + 1;
 }
 
+void TMVADODataSet::SetRecNo(int recNo) {
+  CheckOpen();
+  if (impl_->cursor) throw EDatabaseError("Operation is not allowed on a forward-only cursor");
+  if (recNo < 1 || recNo > RecordCount()) {
+    throw EDatabaseError("Record number " + std::to_string(recNo) + " out of bounds");
+  }
+  Post();
+  impl_->current = static_cast<size_t>(recNo - 1);
+}
+
 }  // namespace mv::db

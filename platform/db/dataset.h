@@ -124,8 +124,12 @@ class TMVADODataSet : public TMVADOQuery {
   int RecordCount() const;
   // The 1-based number of the current row; 0 when there is none.
   int RecNo() const;
+  // Moves to row `recNo` (1-based, client cursor; a pending edit is posted first); raises
+  // EDatabaseError for a number outside 1 .. RecordCount or with a server cursor.
+  void SetRecNo(int recNo);
   // Moves to the first row, from the first, whose field `fieldName` equals `value` (text exact,
-  // numbers and date-times by value); returns false and stays put when none does.
+  // numbers and date-times by value); returns false and stays put when none does. A server
+  // cursor searches forward from the current row and ends at Eof when no row matches.
   bool Locate(std::string_view fieldName, const Variant& value);
 
   // The fields in their current order.

@@ -1,0 +1,31 @@
+// The library's preparations of a dataset before it opens: how it reads and writes, and the
+// time-out its statements get. Each sets the cursor location, the lock kind and the command
+// time-out; all take effect when the dataset next opens.
+#pragma once
+
+namespace mv::db {
+class TMVADODataSet;
+}
+
+namespace mv {
+
+// For reading: client cursor (every row fetched, record count known, Locate and First work),
+// read-only, time-out iReadTimeOut.
+void ApplyRead(db::TMVADODataSet& dataset);
+
+// For writing one row at a time under a lock: client cursor, pessimistic lock, time-out
+// iWriteTimeOut.
+void ApplyWrite(db::TMVADODataSet& dataset);
+
+// For writing without a lock: client cursor, optimistic lock (a row changed by someone else
+// since it was read is refused on Post), time-out iWriteTimeOut.
+void ApplyWriteWoLck(db::TMVADODataSet& dataset);
+
+// For writing many rows: client cursor, batch-optimistic lock, time-out iWriteTimeOut.
+void ApplyBatchWrite(db::TMVADODataSet& dataset);
+
+// For reports, which read long results once from start to end: server cursor (rows fetched as
+// the report walks them, record count -1), read-only, time-out iReadTimeOut.
+void ApplyReport(db::TMVADODataSet& dataset);
+
+}  // namespace mv
