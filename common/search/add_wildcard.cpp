@@ -41,10 +41,12 @@ void AddWildCard(db::TMVADOQuery& query, std::span<const std::string> fieldNames
                  std::span<const std::u16string> patterns, std::span<const std::string> joiners) {
   std::u16string conditions;
   for (size_t i = 0; i < fieldNames.size(); ++i) {
-    const std::u16string_view pattern = i < patterns.size() ? patterns[i] : u"";
+    const std::u16string_view pattern =
+        i < patterns.size() ? std::u16string_view(patterns[i]) : std::u16string_view();
     const std::u16string condition = ChangeWildCard(fieldNames[i], pattern, false, true);
     if (condition.empty()) continue;
-    const std::string_view joiner = i < joiners.size() ? joiners[i] : "";
+    const std::string_view joiner =
+        i < joiners.size() ? std::string_view(joiners[i]) : std::string_view();
     conditions += u" " + MV_AnsiToWideString(joiner) + u" " + condition;
   }
   AttachCondition(query, conditions, u" ");
