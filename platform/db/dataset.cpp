@@ -6,6 +6,7 @@
 #include "platform/db/db_error.h"
 #include "platform/db/qt_values.h"
 #include "platform/db/run_query.h"
+#include "platform/db/sql_text.h"
 
 namespace mv::db {
 namespace {
@@ -57,6 +58,7 @@ void TMVADODataSet::Open() {
     fresh.fields.emplace_back(
         new TField(*this, static_cast<int>(i), fresh.columnNames[i], fresh.columnTypes[i]));
   }
+  fresh.table = SingleTableOf(PrepareSql(CommandText()).Sql);
   fresh.state = dsBrowse;
   *impl_ = std::move(fresh);
   if (afterOpen_) afterOpen_(*this);

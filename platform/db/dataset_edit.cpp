@@ -3,7 +3,6 @@
 #include "platform/db/dataset_impl.h"
 #include "platform/db/db_error.h"
 #include "platform/db/run_query.h"
-#include "platform/db/sql_text.h"
 
 namespace mv::db {
 namespace {
@@ -82,7 +81,7 @@ TStatement UpdateStatement(const std::u16string& table, const TMVADODataSet::Imp
 void TMVADODataSet::CheckEditable() const {
   CheckOpen();
   if (lockType_ == ltReadOnly) throw EDatabaseError("Cannot modify a read-only dataset");
-  if (SingleTableOf(PrepareSql(CommandText()).Sql).empty()) {
+  if (impl_->table.empty()) {
     throw EDatabaseError("Cannot modify the rows of a query that does not select from one table");
   }
 }
@@ -114,7 +113,7 @@ void TMVADODataSet::Append() {
 void TMVADODataSet::Post() {
   Impl& d = *impl_;
   if (d.state != dsEdit && d.state != dsInsert) return;
-  const std::u16string table = SingleTableOf(PrepareSql(CommandText()).Sql);
+  const std::u16string& table = d.table;
   const TStatement s = d.state == dsInsert ? InsertStatement(table, d)
                                            : UpdateStatement(table, d, d.rows[d.current]);
   if (!s.Sql.empty()) {

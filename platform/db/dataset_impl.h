@@ -25,6 +25,7 @@ struct TMVADODataSet::Impl {
   TRow buffer;                      // the row being edited or inserted
   std::vector<bool> assigned;       // columns set since Edit / Insert
   bool appending = false;
+  std::u16string table;  // the one table of the select as it opened; empty for other selects
 
   const TRow* CurrentRow() const {
     if (state == dsEdit || state == dsInsert) return &buffer;

@@ -20,7 +20,11 @@ constexpr int kSqliteDefaultBusyMs = 5000;
 
 void SetOdbcTimeout(const QSqlQuery& query, int seconds) {
   const QVariant handle = query.result()->handle();
-  if (!handle.isValid() || qstrcmp(handle.typeName(), "SQLHANDLE") != 0) return;
+  // Qt's ODBC driver hands out the statement handle as SQLHANDLE, a void*.
+  if (!handle.isValid() ||
+      (qstrcmp(handle.typeName(), "SQLHANDLE") != 0 && qstrcmp(handle.typeName(), "void*") != 0)) {
+    return;
+  }
   SQLHANDLE statement = *static_cast<SQLHANDLE const*>(handle.data());
   SQLSetStmtAttr(statement, SQL_ATTR_QUERY_TIMEOUT,
                  reinterpret_cast<SQLPOINTER>(static_cast<intptr_t>(seconds)), 0);
