@@ -18,14 +18,20 @@ namespace {
 // Qt's SQLite driver waits this long for a locked database unless told otherwise.
 constexpr int kSqliteDefaultBusyMs = 5000;
 
-void SetOdbcTimeout(const QSqlQuery& query, int seconds) {
+// The ODBC statement of a query on the ODBC driver, or nullptr. Qt hands it out as SQLHANDLE,
+// which is a void*.
+SQLHANDLE OdbcStatementOf(const QSqlQuery& query) {
   const QVariant handle = query.result()->handle();
-  // Qt's ODBC driver hands out the statement handle as SQLHANDLE, a void*.
   if (!handle.isValid() ||
       (qstrcmp(handle.typeName(), "SQLHANDLE") != 0 && qstrcmp(handle.typeName(), "void*") != 0)) {
-    return;
+    return nullptr;
   }
-  SQLHANDLE statement = *static_cast<SQLHANDLE const*>(handle.data());
+  return *static_cast<SQLHANDLE const*>(handle.data());
+}
+
+void SetOdbcTimeout(const QSqlQuery& query, int seconds) {
+  SQLHANDLE statement = OdbcStatementOf(query);
+  if (statement == nullptr) return;
   SQLSetStmtAttr(statement, SQL_ATTR_QUERY_TIMEOUT,
                  reinterpret_cast<SQLPOINTER>(static_cast<intptr_t>(seconds)), 0);
 }
@@ -70,7 +76,30 @@ QSqlQuery RunQuery(const TMVADOQuery& query, bool forwardOnly) {
   return RunSql(query.ConnectionName(), prepared.Sql, values, query.CommandTimeout(), forwardOnly);
 }
 
+namespace {
+
+// The type names the ODBC driver gives the columns ("nvarchar", "char" ...), where the SQL type
+// it reports says less (SQLite's driver reports every text column as varchar).
+std::vector<TFieldType> OdbcColumnTypes(const QSqlQuery& query) {
+  SQLHANDLE statement = OdbcStatementOf(query);
+  SQLSMALLINT count = 0;
+  if (statement == nullptr || !SQL_SUCCEEDED(SQLNumResultCols(statement, &count))) return {};
+  std::vector<TFieldType> types;
+  for (SQLUSMALLINT column = 1; column <= static_cast<SQLUSMALLINT>(count); ++column) {
+    SQLCHAR name[128] = {};
+    SQLSMALLINT length = 0;
+    const SQLRETURN rc =
+        SQLColAttribute(statement, column, SQL_DESC_TYPE_NAME, name, sizeof name, &length, nullptr);
+    types.push_back(SQL_SUCCEEDED(rc) ? FieldTypeOfDeclared(reinterpret_cast<char*>(name))
+                                      : ftUnknown);
+  }
+  return types;
+}
+
+}  // namespace
+
 std::vector<TFieldType> DeclaredColumnTypes(const std::string& connection, const QSqlQuery& query) {
+  if (Connection(connection).Backend == TBackend::Odbc) return OdbcColumnTypes(query);
   auto* db = static_cast<sqlite3*>(SqliteHandleOf(DatabaseOf(connection)));
   if (db == nullptr) return {};
   const std::u16string sql = query.lastQuery().toStdU16String();

@@ -24,8 +24,9 @@ QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
 // Runs the command text of `query` with its parameters bound by name to their places.
 QSqlQuery RunQuery(const TMVADOQuery& query, bool forwardOnly);
 
-// The field types of the result columns of the run `query` as declared on a SQLite connection (what
-// Qt does not tell); empty for other connections or when they cannot be found.
+// The field types of the result columns of the run `query` by their declared type names (what Qt
+// does not tell): SQLite's declared types, or the type names an ODBC driver gives; empty when
+// they cannot be found, ftUnknown for a column whose name means nothing.
 std::vector<TFieldType> DeclaredColumnTypes(const std::string& connection, const QSqlQuery& query);
 
 }  // namespace mv::db

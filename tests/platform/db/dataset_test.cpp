@@ -108,6 +108,9 @@ TYPED_TEST(DataSetTest, FieldsKeepTheirSettingsAndMoveAcrossRefresh) {
   EXPECT_EQ(ds.Fields(0).DataType(), ftString);
   EXPECT_EQ(ds.Fields(3).DataType(), ftInteger);
   EXPECT_EQ(ds.FieldByName("Amount").DataType(), ftFloat);
+  EXPECT_EQ(ds.FieldByName("Subject").DataType(), ftWideString);
+  EXPECT_EQ(ds.FieldByName("Flag").DataType(), ftFixedChar);
+  EXPECT_EQ(ds.FieldByName("SentAt").DataType(), ftDateTime);
   ds.FieldByName("Qty").SetIndex(0);
   ds.FieldByName("Subject").SetDisplayLabel("主旨");
   ds.FieldByName("Flag").SetVisible(false);
