@@ -188,6 +188,21 @@ TYPED_TEST(DataSetTest, ReadOnlyAndJoinedSelectsRefuseEdits) {
   EXPECT_EQ(ds.State(), dsBrowse);
 }
 
+TYPED_TEST(DataSetTest, CommandsCountChangedRowsAndNeedEveryParameter) {
+  TMVADOCommand c;
+  c.SetCommandText("update Msg set Qty = :q where Qty >= :min or RefNo = ':min'");
+  ASSERT_EQ(c.Parameters().Count(), 2);
+  c.Parameters()[0].Value = 7;
+  c.Parameters()[1].Value = 2;
+  EXPECT_EQ(c.Execute(), 2);
+  c.SetParamCheck(false);
+  c.SetCommandText("delete from Msg where Qty = :q or Qty = :other");
+  EXPECT_EQ(c.Parameters().Count(), 2);  // the old list stays
+  EXPECT_THROW(c.Execute(), EDatabaseError);
+  c.Parameters()[1].Name = "other";
+  EXPECT_EQ(c.Execute(), 2);
+}
+
 TYPED_TEST(DataSetTest, BadSqlRaisesTheDriverMessageAndLeavesTheDatasetClosed) {
   auto& ds = this->ds_;
   ds.SetCommandText("select Nope from Msg");
