@@ -1,14 +1,19 @@
 // libFuzzer target of the wildcard translator. The input is a search pattern, read once as narrow
 // text (Big5) and once as wide text (UTF-16 units, two bytes each, made a carrier of plain text).
-// Every condition has balanced parentheses outside its literals, and in the marked form nothing
-// of the pattern stands outside the marks: only the column and the translator's fixed words.
+// Every condition has balanced parentheses outside its literals; in the marked form nothing of
+// the pattern stands outside the marks, and once AddWildCard has made the marked literals
+// parameters, the command text holds only the column, the fixed words and the parameter names.
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "common/search/add_wildcard.h"
+#include "common/search/param_list.h"
 #include "common/search/wildcard.h"
 #include "common/text/conversions.h"
+#include "platform/db/command.h"
 
 namespace {
 
@@ -33,21 +38,22 @@ void RemoveAll(std::u16string& text, std::u16string_view word) {
     text.erase(at, word.size());
 }
 
-// The marked condition without its literals is made of the column, the fixed words and
-// balanced parentheses only.
-void CheckMarked(std::u16string_view condition) {
-  std::u16string outside;
-  bool marked = false;
-  for (char16_t c : condition) {
-    if (c == mv::WideLiteralMark) {
-      marked = !marked;
-    } else if (!marked) {
-      outside += c;
-    }
+// Parameter names " :pTmp" + digits in `text` written " P", as literals are in CheckMarked.
+void PlaceholdersForParameters(std::u16string& text) {
+  constexpr std::u16string_view kName = u" :pTmp";
+  for (size_t at = text.find(kName); at != std::u16string::npos; at = text.find(kName, at)) {
+    size_t end = at + kName.size();
+    while (end < text.size() && text[end] >= u'0' && text[end] <= u'9') ++end;
+    if (end == at + kName.size()) std::abort();
+    text.replace(at, end - at, u" P");
   }
-  if (marked) std::abort();
-  for (std::u16string_view word : {u" IS NULL", u" Escape '!'", u"MsgRef", u" like ", u" >= ",
-                                   u" <= ", u" = ", u" and ", u" or "})
+}
+
+// `outside`, literals written "P", with the column and the fixed words taken out is balanced
+// parentheses only.
+void CheckOnlyFixedWords(std::u16string outside) {
+  for (std::u16string_view word : {u" IS NULL", u" Escape '!'", u"MsgRef", u" like P", u" >= P",
+                                   u" <= P", u" = P", u" and ", u" or "})
     RemoveAll(outside, word);
   int depth = 0;
   for (char16_t c : outside) {
@@ -56,6 +62,45 @@ void CheckMarked(std::u16string_view condition) {
     if (depth < 0) std::abort();
   }
   if (depth != 0) std::abort();
+}
+
+// The marked condition without its literals holds only the column and the fixed words.
+void CheckMarked(std::u16string_view condition) {
+  std::u16string outside;
+  bool marked = false;
+  for (char16_t c : condition) {
+    if (c == mv::WideLiteralMark) {
+      marked = !marked;
+      if (marked) outside += u'P';
+    } else if (!marked) {
+      outside += c;
+    }
+  }
+  if (marked) std::abort();
+  CheckOnlyFixedWords(outside);
+}
+
+// GetWildCard makes one parameter per literal, and AddWildCard appends nothing of the pattern.
+void CheckAttached(std::u16string_view condition, std::u16string_view pattern) {
+  mv::TParamList params;
+  std::u16string text = mv::GetWildCard(condition, true, params);
+  if (text.find(mv::WideLiteralMark) != std::u16string::npos) std::abort();
+  if (static_cast<size_t>(std::count(condition.begin(), condition.end(), mv::WideLiteralMark)) !=
+      2 * params.size())
+    std::abort();
+
+  static constexpr std::u16string_view kSelect = u"select * from Inbox";
+  mv::db::TMVADOCommand query;
+  query.SetCommandText(kSelect);
+  mv::AddWildCard(query, "MsgRef", pattern, true, false, "");
+  std::u16string attached = query.CommandText().substr(kSelect.size());
+  if (condition.empty() != attached.empty()) std::abort();
+  if (attached.empty()) return;
+  if (!attached.starts_with(u" Where ")) std::abort();
+  attached.erase(0, 7);
+  PlaceholdersForParameters(attached);
+  CheckOnlyFixedWords(attached);
+  if (query.Parameters().Count() != static_cast<int>(params.size())) std::abort();
 }
 
 }  // namespace
@@ -74,6 +119,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     units[i] = static_cast<char16_t>(data[2 * i] | (data[2 * i + 1] << 8));
   const std::u16string pattern = mv::MV_WideStringToWideVc(units);
   CheckQuotedBalance<char16_t>(mv::ChangeWildCard(kColumn, pattern, true, false));
-  CheckMarked(mv::ChangeWildCard(kColumn, pattern, false, true));
+  const std::u16string marked = mv::ChangeWildCard(kColumn, pattern, false, true);
+  CheckMarked(marked);
+  CheckAttached(marked, pattern);
   return 0;
 }
