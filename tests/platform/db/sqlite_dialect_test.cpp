@@ -35,6 +35,17 @@ TEST_F(SqliteDialect, NationalAndMarkedLiteralsKeepChineseText) {
   EXPECT_EQ(Scalar("select count(*) from T where ColN='x'").AsInteger(), 1);
 }
 
+TEST_F(SqliteDialect, StrayMarksInDataNeverOpenALiteralOfTheCarrier) {
+  TMVADODataSet ds;
+  ds.SetCommandText("select 'a' || char(2) || 'b'");
+  ds.Open();
+  EXPECT_EQ(ds.GetUnicodeFieldValue(0, false),
+            u"a\x02"
+            u"b");
+  EXPECT_EQ(ds.GetUnicodeFieldValue(0, true), u"ab");
+  EXPECT_THROW(ds.GetUnicodeFieldValue(1, true), EDatabaseError);
+}
+
 TEST_F(SqliteDialect, GetDateIsLocalNowAsDayNumber) {
   const double before = std::floor(Scalar("select GetDate()").AsFloat());
   EXPECT_GT(before, 45000);  // after 2023
