@@ -1,17 +1,12 @@
 // The mvcommon program, run as a separate process on installations made in a temporary folder.
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "tests/support/run_program.h"
 #include "tests/support/temp_dir.h"
-
-extern char** environ;
 
 namespace mv::test {
 namespace {
@@ -19,34 +14,9 @@ namespace {
 using json = nlohmann::ordered_json;
 using Args = std::vector<std::string>;
 
-struct RunResult {
-  int exitCode = -1;
-  std::string out, err;
-};
-
-// Runs the program with `args`, catching standard output and error in files.
+// Runs the program with `args`.
 RunResult RunProgram(const Args& args) {
-  TempDir capture;
-  std::vector<char*> argv{const_cast<char*>(MVCOMMON_PROGRAM)};
-  for (const std::string& arg : args) argv.push_back(const_cast<char*>(arg.c_str()));
-  argv.push_back(nullptr);
-  posix_spawn_file_actions_t files;
-  posix_spawn_file_actions_init(&files);
-  posix_spawn_file_actions_addopen(&files, 1, capture.File("out").c_str(), O_WRONLY | O_CREAT,
-                                   0600);
-  posix_spawn_file_actions_addopen(&files, 2, capture.File("err").c_str(), O_WRONLY | O_CREAT,
-                                   0600);
-  pid_t pid = 0;
-  int status = 0;
-  RunResult result;
-  if (posix_spawn(&pid, argv[0], &files, nullptr, argv.data(), environ) == 0 &&
-      waitpid(pid, &status, 0) == pid && WIFEXITED(status)) {
-    result.exitCode = WEXITSTATUS(status);
-  }
-  posix_spawn_file_actions_destroy(&files);
-  result.out = capture.Read("out");
-  result.err = capture.Read("err");
-  return result;
+  return test::RunProgram(MVCOMMON_PROGRAM, args);
 }
 
 // An installation: server folder <tmp>/client/server, machine folder <tmp>/machine whose
