@@ -6,6 +6,26 @@
 #include "common/frame/startup.h"
 
 namespace mv::cli {
+namespace {
+
+// Filled by the commands' registrations during start-up, read only after main has begun.
+std::vector<const Command*>& Commands() {
+  static std::vector<const Command*> commands;
+  return commands;
+}
+
+}  // namespace
+
+bool RegisterCommand(const Command& command) {
+  Commands().push_back(&command);
+  return true;
+}
+
+std::vector<const Command*> RegisteredCommands() {
+  std::vector<const Command*> sorted = Commands();
+  std::ranges::sort(sorted, {}, &Command::name);
+  return sorted;
+}
 
 std::optional<std::string> ParsedArgs::Option(std::string_view name) const {
   auto it = options.find(name);

@@ -37,10 +37,24 @@ ParsedArgs ParseArgs(std::span<char* const> args, std::span<const std::string_vi
 // One subcommand of the program.
 struct Command {
   std::string_view name;
+  std::string_view summary;                   // one line for the program's usage, no line end
   std::string_view usage;                     // the whole usage text, ending with a line end
   std::span<const std::string_view> options;  // the options that take a value
   int (*run)(const ParsedArgs& args);         // the exit code
+  // Splits the words after the command; ParseArgs with `options` when not set.
+  ParsedArgs (*parse)(std::span<char* const> args) = nullptr;
 };
+
+// Adds `command` to the program's commands; returns true so that a command file can register
+// itself with a namespace-scope `const bool` (see MV_CLI_COMMAND).
+bool RegisterCommand(const Command& command);
+
+// Every registered command, ordered by name.
+std::vector<const Command*> RegisteredCommands();
+
+// Registers the Command object `command` when the program starts.
+#define MV_CLI_COMMAND(command) \
+  [[maybe_unused]] const bool command##Registered = ::mv::cli::RegisterCommand(command)
 
 // Uses the options --machine-dir and --server-path when given: the machine folder becomes
 // MV_MACHINE_DIR (and MV_REGISTRY is dropped, so that the registry file in that folder counts);

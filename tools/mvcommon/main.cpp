@@ -1,31 +1,33 @@
 // mvcommon: the command-line companion of the library. Dispatches to its subcommands; exit codes
 // are the subcommand's (0 when done), 1 for an error the library raised, 2 for a command line it
 // cannot follow.
-#include <array>
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <string>
 #include <string_view>
 
 #include "platform/system/machine.h"
-#include "tools/mvcommon/commands.h"
+#include "tools/mvcommon/command_line.h"
 
 namespace {
 
 using mv::cli::Command;
 
-constexpr std::array<const Command*, 3> kCommands = {
-    &mv::cli::kSettingsCommand, &mv::cli::kSeqCommand, &mv::cli::kWildcardCommand};
-
-constexpr std::string_view kUsage =
-    "Usage: mvcommon COMMAND [OPTIONS] [ARGUMENTS]\n"
-    "\n"
-    "Commands:\n"
-    "  settings   start the library as a client does and print its settings as JSON\n"
-    "  seq        issue the next running number, or print a configured text\n"
-    "  wildcard   print the SQL condition of a search pattern\n"
-    "\n"
-    "\"mvcommon COMMAND --help\" describes a command and its options.\n";
+// The program's usage: its commands with their summaries.
+std::string Usage() {
+  std::string usage =
+      "Usage: mvcommon COMMAND [OPTIONS] [ARGUMENTS]\n"
+      "\n"
+      "Commands:\n";
+  for (const Command* command : mv::cli::RegisteredCommands()) {
+    std::string name(command->name);
+    name.resize(std::max<size_t>(name.size() + 1, 13), ' ');
+    usage += "  " + name + std::string(command->summary) + "\n";
+  }
+  usage += "\n\"mvcommon COMMAND --help\" describes a command and its options.\n";
+  return usage;
+}
 
 void Print(std::FILE* stream, std::string_view text) {
   std::fwrite(text.data(), 1, text.size(), stream);
@@ -38,7 +40,7 @@ int UsageFailure(const std::string& message, std::string_view usage) {
 }
 
 const Command* FindCommand(std::string_view name) {
-  for (const Command* command : kCommands) {
+  for (const Command* command : mv::cli::RegisteredCommands()) {
     if (command->name == name) return command;
   }
   return nullptr;
@@ -46,9 +48,8 @@ const Command* FindCommand(std::string_view name) {
 
 int RunCommand(const Command& command, std::span<char* const> args) {
   try {
-    mv::cli::ParsedArgs parsed = &command == &mv::cli::kWildcardCommand
-                                     ? mv::cli::ParseWildcardArgs(args)
-                                     : mv::cli::ParseArgs(args, command.options);
+    mv::cli::ParsedArgs parsed =
+        command.parse != nullptr ? command.parse(args) : mv::cli::ParseArgs(args, command.options);
     if (parsed.help) {
       Print(stdout, command.usage);
       return 0;
@@ -68,16 +69,16 @@ int main(int argc, char** argv) {
   // Start-up boxes name the program, whatever its file is called.
   mv::sys::SetApplicationTitle("mvcommon");
   std::span<char* const> args(argv + 1, argc > 0 ? static_cast<size_t>(argc - 1) : 0);
-  if (args.empty()) return UsageFailure("no command given", kUsage);
+  if (args.empty()) return UsageFailure("no command given", Usage());
 
   std::string_view first = args[0];
   if (first == "--help" || first == "-h") {
-    Print(stdout, kUsage);
+    Print(stdout, Usage());
     return 0;
   }
   const Command* command = FindCommand(first);
   if (command == nullptr)
-    return UsageFailure("unknown command \"" + std::string(first) + "\"", kUsage);
+    return UsageFailure("unknown command \"" + std::string(first) + "\"", Usage());
   int code = RunCommand(*command, args.subspan(1));
   std::fflush(stdout);
   return code;

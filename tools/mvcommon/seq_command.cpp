@@ -9,7 +9,7 @@
 #include "common/frame/config_helpers.h"
 #include "common/frame/startup.h"
 #include "platform/codepage/codepage.h"
-#include "tools/mvcommon/commands.h"
+#include "tools/mvcommon/command_line.h"
 
 namespace mv::cli {
 namespace {
@@ -46,8 +46,11 @@ int Run(const ParsedArgs& args) {
   return 0;
 }
 
+constinit const Command kSeqCommand{
+    "seq", "issue the next running number, or print a configured text", kUsage, kOptions, &Run};
+
 }  // namespace
 
-constinit const Command kSeqCommand{"seq", kUsage, kOptions, &Run};
+MV_CLI_COMMAND(kSeqCommand);
 
 }  // namespace mv::cli

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "common/frame/startup.h"
-#include "tools/mvcommon/commands.h"
+#include "tools/mvcommon/command_line.h"
 #include "tools/mvcommon/state_json.h"
 
 namespace mv::cli {
@@ -50,8 +50,12 @@ int Run(const ParsedArgs& args) {
   return 0;
 }
 
+constinit const Command kSettingsCommand{
+    "settings", "start the library as a client does and print its settings as JSON", kUsage,
+    kOptions, &Run};
+
 }  // namespace
 
-constinit const Command kSettingsCommand{"settings", kUsage, kOptions, &Run};
+MV_CLI_COMMAND(kSettingsCommand);
 
 }  // namespace mv::cli

@@ -9,7 +9,7 @@
 #include "common/search/wildcard.h"
 #include "common/text/conversions.h"
 #include "platform/codepage/codepage.h"
-#include "tools/mvcommon/commands.h"
+#include "tools/mvcommon/command_line.h"
 
 namespace mv::cli {
 namespace {
@@ -81,8 +81,9 @@ int Run(const ParsedArgs& args) {
   return 0;
 }
 
-}  // namespace
-
+// The words after "wildcard" with its on/off switches (--wide, --mark, --no-double-quotes,
+// --params) taken out first and set as options of an empty value; the rest is read as ParseArgs
+// reads it.
 ParsedArgs ParseWildcardArgs(std::span<char* const> args) {
   std::vector<char*> rest;
   std::vector<std::string> switches;
@@ -103,6 +104,12 @@ ParsedArgs ParseWildcardArgs(std::span<char* const> args) {
   return parsed;
 }
 
-constinit const Command kWildcardCommand{"wildcard", kUsage, {}, &Run};
+constinit const Command kWildcardCommand{"wildcard", "print the SQL condition of a search pattern",
+                                         kUsage,     {},
+                                         &Run,       &ParseWildcardArgs};
+
+}  // namespace
+
+MV_CLI_COMMAND(kWildcardCommand);
 
 }  // namespace mv::cli
