@@ -30,6 +30,13 @@ enum TMsgDlgBtn {
   mbHelp
 };
 
+// The shape of the mouse cursor over the program's windows, numbered as the classic toolkit
+// numbers its cursors. crDefault lets each window show its own cursor.
+using TCursor = int16_t;
+inline constexpr TCursor crDefault = 0;
+inline constexpr TCursor crArrow = -2;
+inline constexpr TCursor crHourGlass = -11;
+
 // A set of buttons, one bit per TMsgDlgBtn.
 class TMsgDlgButtons {
  public:
@@ -94,6 +101,10 @@ class DialogProvider {
   virtual bool InputQuery(InputQueryRequest& request) = 0;
   // Dots per inch of the screen the dialogs appear on.
   virtual int ScreenDpi() const { return 96; }
+  // The cursor shown over every window of the program, and changing it. A provider without a
+  // screen (the console one) keeps nothing: it always answers crDefault.
+  virtual TCursor ScreenCursor() const { return crDefault; }
+  virtual void SetScreenCursor(TCursor /*cursor*/) {}
 };
 
 // Writes "caption: text [buttons]" in UTF-8 to standard error and answers the default button;
@@ -127,6 +138,13 @@ class RecordingDialogProvider : public DialogProvider {
   }
   void SetScreenDpi(int dpi) { dpi_ = dpi; }
   int ScreenDpi() const override { return dpi_; }
+  // Keeps the cursor, and every cursor set, in order.
+  TCursor ScreenCursor() const override { return cursor_; }
+  void SetScreenCursor(TCursor cursor) override {
+    cursor_ = cursor;
+    cursors_.push_back(cursor);
+  }
+  const std::vector<TCursor>& CursorsSet() const { return cursors_; }
 
  private:
   std::vector<DialogRequest> requests_;
@@ -134,6 +152,8 @@ class RecordingDialogProvider : public DialogProvider {
   std::vector<InputQueryRequest> inputRequests_;
   std::deque<std::pair<bool, std::u16string>> inputs_;
   int dpi_ = 96;
+  TCursor cursor_ = crDefault;
+  std::vector<TCursor> cursors_;
 };
 
 // A dialog made by a provider that has no forms of its own: showing it asks the provider.

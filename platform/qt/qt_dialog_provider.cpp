@@ -1,5 +1,6 @@
 #include "platform/qt/qt_dialog_provider.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 #include <cmath>
@@ -30,6 +31,19 @@ int QtDialogProvider::ScreenDpi() const {
   const QScreen* screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return 96;
   return static_cast<int>(std::lround(screen->logicalDotsPerInch()));
+}
+
+void QtDialogProvider::SetScreenCursor(dialogs::TCursor cursor) {
+  if (cursor == cursor_) return;
+  const QCursor shape(cursor == dialogs::crHourGlass ? Qt::WaitCursor : Qt::ArrowCursor);
+  if (cursor_ == dialogs::crDefault) {
+    QGuiApplication::setOverrideCursor(shape);
+  } else if (cursor == dialogs::crDefault) {
+    QGuiApplication::restoreOverrideCursor();
+  } else {
+    QGuiApplication::changeOverrideCursor(shape);
+  }
+  cursor_ = cursor;
 }
 
 }  // namespace mv::qt

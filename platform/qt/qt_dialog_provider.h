@@ -30,11 +30,16 @@ class QtDialogProvider : public dialogs::DialogProvider {
   bool InputQuery(dialogs::InputQueryRequest& request) override;
   // The logical dots per inch of the primary screen, rounded; 96 when there is no screen.
   int ScreenDpi() const override;
+  // The cursor is the application's override cursor: crHourGlass shows the wait cursor, any other
+  // shape but crDefault the arrow, and crDefault removes the override this provider set.
+  dialogs::TCursor ScreenCursor() const override { return cursor_; }
+  void SetScreenCursor(dialogs::TCursor cursor) override;
 
  private:
   bool English() const { return !isEnglish_ || isEnglish_(); }
 
   std::function<bool()> isEnglish_;
+  dialogs::TCursor cursor_ = dialogs::crDefault;
 };
 
 }  // namespace mv::qt
