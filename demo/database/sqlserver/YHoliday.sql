@@ -1,0 +1,6 @@
+-- Public holidays of the Simplified Chinese edition: holiday names in Simplified Chinese. One row per holiday, the date
+-- at midnight.
+CREATE TABLE YHoliday (
+  HolDate datetime NOT NULL PRIMARY KEY,
+  HolName nvarchar(80) NULL
+);
