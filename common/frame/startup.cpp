@@ -41,11 +41,16 @@ std::string RegistryServerPath(const char* key) {
 
 // Steps shared by both lines: configuration names, decimal point, the server and base folders.
 void FindInstallation(const char* registryKey) {
-  Global_Merovan_Ini = "SEDIFSYS.INI";
-  LOCAL_Merovan_Ini = "WIN.INI";
   // Numbers in configuration files and SQL text always use "." whatever the region says.
   std::setlocale(LC_NUMERIC, "C");
+  LocateInstallation(registryKey);
+}
 
+}  // namespace
+
+void LocateInstallation(const char* registryKey) {
+  Global_Merovan_Ini = "SEDIFSYS.INI";
+  LOCAL_Merovan_Ini = "WIN.INI";
   ServerPath = RegistryServerPath(registryKey);
   if (ServerPath.empty() || !files::DirectoryExists(ServerPath)) {
     const std::string title = sys::ApplicationTitle();
@@ -62,6 +67,8 @@ void FindInstallation(const char* registryKey) {
 void RegisterPrintPreview() {
   if (PreviewRegistration()) PreviewRegistration()();
 }
+
+namespace {
 
 void FreeLists(std::initializer_list<std::unique_ptr<TStringList>*> lists) {
   for (auto* list : lists) list->reset();
@@ -98,8 +105,7 @@ void FreeStrList() {
 void FreeStrList_Quenta() {
   FreeLists({&DetRecord.FieldName, &DetRecord.EngCaption, &DetRecord.ChiCaption, &Addon,
              &AddonToolBar, &Service, &AddonMenu, &InboxMsgType, &OutboxMsgType, &SentBoxMsgType,
-             &C_InboxMsgType, &C_OutboxMsgType, &C_SentBoxMsgType, &InboxSrvType,
-             &C_InboxSrvType});
+             &C_InboxMsgType, &C_OutboxMsgType, &C_SentBoxMsgType, &InboxSrvType, &C_InboxSrvType});
 }
 
 std::optional<unsigned short> AdoFpuWordToLoad(std::optional<unsigned> osMajorVersion,
@@ -124,7 +130,9 @@ std::string WorkingFolder() {
   return text.empty() ? "[Working Folder]" : text;
 }
 
-std::string MV_GetCodepage(bool system) { return modules::MV_GetCodepage(system); }
+std::string MV_GetCodepage(bool system) {
+  return modules::MV_GetCodepage(system);
+}
 
 void SetServerPathOverride(std::optional<std::string> folder) {
   ServerPathOverride() = std::move(folder);

@@ -50,6 +50,16 @@ std::string MV_GetCodepage(bool system);
 // (nothing = the registry again).
 void SetServerPathOverride(std::optional<std::string> folder);
 
+// The first steps of every start: Global_Merovan_Ini := "SEDIFSYS.INI", LOCAL_Merovan_Ini :=
+// "WIN.INI", ServerPath from the value "ServerPath" of `registryKey` (or SetServerPathOverride's),
+// the start-up error box and the end of the process when that folder is missing, then ServerPath
+// with its final separator and BasePath, its parent. The start routines call it.
+void LocateInstallation(const char* registryKey);
+
+// Registers the print-preview dialog with the report engine through the routine set below;
+// nothing when none is set. The start routines call it last.
+void RegisterPrintPreview();
+
 // The routine that registers the print-preview dialog with the report engine; the forms layer
 // sets it. Init calls it; with none set, nothing happens.
 void SetPrintPreviewRegistration(std::function<void()> registration);
