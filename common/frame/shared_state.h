@@ -54,11 +54,13 @@ struct TAdvance {
   bool SupportTypeB = false;
 };
 
-// The user-defined field settings of a service: three parallel lists.
+// The user-defined reference fields of a service (common/services/user_fields.h): three
+// parallel lists, one line per field in field order (five once GetUserDefineFields has filled
+// them), narrow text in the system code page. Null until filled or created.
 struct TDefinedRecord {
-  std::unique_ptr<TStringList> FieldName;
-  std::unique_ptr<TStringList> EngCaption;
-  std::unique_ptr<TStringList> ChiCaption;
+  std::unique_ptr<TStringList> FieldName;   // the mail-box column of the field: "Ref1" .. "Ref5"
+  std::unique_ptr<TStringList> EngCaption;  // its English caption, "Ref #1" .. by default
+  std::unique_ptr<TStringList> ChiCaption;  // its Chinese caption, "Ref #1" .. by default
 };
 
 // Display colours by kind of field: date-time, integer, string, others.
@@ -98,8 +100,11 @@ struct TCheckDupTDECSub {
 
 extern TUserRecord UserRecord;
 extern TAdvance Advance;
+// The user-defined fields of the declaration service; filled by the backup and restore start
+// (backup_startup.h).
 extern TDefinedRecord DefinedRecord;
-// Same shape as DefinedRecord; used by the Quenta line.
+// Same shape as DefinedRecord; used by the Quenta line, whose settings loader creates its lists
+// empty and whose clean-up frees them.
 extern TDefinedRecord DetRecord;
 extern TColorRecord ColorRecord;
 extern TInternet Internet;
