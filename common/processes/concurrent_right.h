@@ -1,0 +1,34 @@
+// Exclusive rights to shared resources between running copies of the client (on one machine or
+// on several sharing the installation folder), through lock files
+// BasePath + "Temp" + separator + resource + ".lck". A right is held for as long as the holder
+// keeps the file's handle; the file itself stays until DeleteLockFile.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace mv {
+
+// The lock file of `resource` (narrow text): BasePath + "Temp" + separator + resource + ".lck".
+std::string LockFileName(const std::string& resource);
+
+// Takes the exclusive right to `resource`. Shows the hourglass cursor (through the dialogs
+// provider) and makes the folder BasePath + "Temp" when it is missing; then up to 15 attempts,
+// 200 milliseconds apart, counted in FRetryAccess: an attempt opens the lock file into `handle`
+// (making the file when it is missing) unless the file exists and `handle` is already 1 or more,
+// in which case the caller holds the right already and nothing is opened. Stops at the first
+// attempt that leaves `handle` greater than 0. Afterwards FRetryAccess is 0 again and the cursor
+// is as before. Returns true when the right is held; false when the resource stayed busy, with
+// `handle` the failed open's -1. Another process holding the file, or another handle of this
+// process, makes the resource busy; a lock file left behind by a copy that ended does not.
+bool SetConcurrentRight(const std::string& resource, int32_t& handle);
+
+// Gives up a right: when `handle` is greater than 0, closes it and sets it to -1; otherwise does
+// nothing. The lock file stays on disk.
+void ResetConcurrentRight(int32_t& handle);
+
+// Removes the lock file of `resource` when it exists. A file that is held at the time (by any
+// process, this one included) is left in place, as the holder still needs it.
+void DeleteLockFile(const std::string& resource);
+
+}  // namespace mv

@@ -1,0 +1,34 @@
+// Exclusive lock files: several running copies of the client, on one machine or on several that
+// share the installation folder, take turns at a shared resource by holding its lock file open.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace mv::files {
+
+// A held lock file: greater than 0 while held. kNoLock is what a failed attempt gives and what a
+// released handle is set to.
+inline constexpr int32_t kNoLock = -1;
+
+// Opens the lock file `path` for writing (making it when it is missing) and takes its exclusive
+// lock without waiting. Returns the handle (greater than 0) when the lock is now held by this
+// handle; kNoLock when another handle holds it (in this process or another) or the file cannot be
+// opened or made (missing folder, no permission).
+// POSIX: an open-file-description write lock (F_OFD_SETLK) on the whole file. Every process that
+// locks the file sees it, also through a network file system's lock service; two handles of one
+// process exclude each other; the system drops the lock when the handle is closed or its holder
+// dies, so a file left behind never blocks the next taker. The handle is not passed on to
+// programs the process starts. When the file is removed or replaced while the lock is being taken,
+// the attempt fails, so that two takers never hold two different files of one name.
+int32_t LockFileExclusive(const std::string& path);
+
+// Gives up the lock of `handle` (a handle of LockFileExclusive) by closing it. The file stays.
+void UnlockFile(int32_t handle);
+
+// Removes the lock file `path` unless it is held: the lock is taken for the removal, so a file
+// that someone holds stays on disk (as a file held open stays on a system that refuses to remove
+// it). True when the file is gone afterwards.
+bool RemoveLockFile(const std::string& path);
+
+}  // namespace mv::files
