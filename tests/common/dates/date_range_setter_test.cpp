@@ -1,0 +1,186 @@
+// The shared preset list with test links on a real user table: loading "PeriodPreset", order and
+// duplicates, the notices the links get, locks and deletion, the link registry and Reload, and
+// the link base's Reset and date condition.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "common/dates/date_range_setter.h"
+#include "common/dates/ui_link.h"
+#include "common/frame/shared_state.h"
+#include "common/frame/string_list.h"
+#include "common/settings/user_preference.h"
+#include "common/text/lang_changer.h"
+#include "tests/common/text/text_fixture.h"
+#include "tests/platform/db/db_fixture.h"
+
+namespace mv::test {
+namespace {
+
+using Log = std::vector<std::string>;
+
+// A link that writes what it is told into a log shared by all links of a test.
+class TestLink : public TUI_Link {
+ public:
+  TestLink(std::string name, Log& log) : name_(std::move(name)), log_(log) {}
+  void UpdateUserDefined() override { log_.push_back(name_ + ":update"); }
+  void UpdateSelection(int index) override { Selection = Setter->GetDateParam(index); }
+  void NotifyChanged() override { log_.push_back(name_ + ":changed"); }
+  void ShowSelection(TDateParam* param) override { shown = param; }
+  void Reload() override { log_.push_back(name_ + (Selection ? ":reload selected" : ":reload")); }
+  TDateParam* shown = nullptr;
+
+ private:
+  std::string name_;
+  Log& log_;
+};
+
+class DateRangeSetterTest : public TextFixture {
+ protected:
+  DateRangeSetterTest() {
+    std::ifstream schema(MV_SYSUSER_SQL, std::ios::binary);
+    std::stringstream sql;
+    sql << schema.rdbuf();
+    Exec(sql.str());
+    Exec("insert into sysuser (userid) values ('DEMO')");
+    UserRecord.UserID = "DEMO";
+    LangChanger().SetLanguage(kLangEnglish);
+  }
+  ~DateRangeSetterTest() override {
+    EXPECT_EQ(TDateRangeSetter::Current(), nullptr);  // every link gone: the list is freed
+    LangChanger().SetLanguage(kLangChinese);
+  }
+  static std::vector<std::string> Captions(const TDateRangeSetter& setter) {
+    std::vector<std::string> captions;
+    for (int i = 0; i < setter.Count(); ++i)
+      captions.push_back(setter.GetDateParam(i)->Description());
+    return captions;
+  }
+
+  SqliteBackend db_{installation_.Dir()};
+  Log log_;
+};
+
+TEST_F(DateRangeSetterTest, AUserWithoutPresetsGetsTheSixDefaults) {
+  TestLink link("A", log_);
+  const TDateRangeSetter& setter = *link.Setter;
+  EXPECT_EQ(setter.GetUserDefined(), "-1D#1W#1M#3M#6M#1Y");
+  EXPECT_EQ(Captions(setter),
+            (std::vector<std::string>{"[All]", "Last 1 Week", "Last 1 Month", "Last 3 Months",
+                                      "Last 6 Months", "Last 1 Year"}));
+  EXPECT_TRUE(setter.GetDateParam(0)->Locked);
+  EXPECT_FALSE(setter.GetDateParam(1)->Locked);
+  EXPECT_THROW(setter.GetDateParam(6), EListError);
+  EXPECT_THROW(setter.GetDateParam(-1), EListError);
+  EXPECT_TRUE(log_.empty());  // made before the link was registered
+}
+
+TEST_F(DateRangeSetterTest, StoredListsAreSortedAndDamagedPiecesBecomeAllDates) {
+  for (const auto& [stored, loaded] :
+       std::vector<std::pair<const char*, const char*>>{{"3M#1W#3M#-1D", "-1D#1W#3M"},
+                                                        {"2W##junk", "-1D#2W"},
+                                                        {"1Y#2D# -3D ", "-3D#2D#1Y"},
+                                                        {"#", ""}}) {
+    SaveUserPreference("PeriodPreset", stored);
+    TestLink link("A", log_);
+    EXPECT_EQ(link.Setter->GetUserDefined(), loaded) << stored;
+  }
+}
+
+TEST_F(DateRangeSetterTest, CreatingTellsEveryLinkEvenWhenThePresetExists) {
+  TestLink a("A", log_), b("B", log_);
+  TDateRangeSetter& setter = *a.Setter;
+  TDateParam* threeMonths = setter.GetDateParam(3);
+  EXPECT_EQ(setter.CreateDateParam(3, TimeByMonth, true), threeMonths);
+  EXPECT_FALSE(threeMonths->Locked);
+  EXPECT_EQ(log_, (Log{"A:update", "B:update"}));
+  TDateParam* twoWeeks = setter.CreateDateParamFromString("2W");
+  EXPECT_EQ(setter.IndexOfDateParam(twoWeeks), 2);
+  EXPECT_EQ(setter.CreateDateParamFromString(""), setter.GetDateParam(0));
+  EXPECT_THROW(setter.CreateDateParam(1, static_cast<TTimeUnit>(4), false), std::out_of_range);
+  EXPECT_EQ(setter.GetUserDefined(), "-1D#1W#2W#1M#3M#6M#1Y");
+  EXPECT_EQ(log_.size(), 6u);
+}
+
+TEST_F(DateRangeSetterTest, AddedPresetsGoAfterTheirEqualsAndTheLastMatchIsFound) {
+  TestLink a("A", log_);
+  TDateRangeSetter& setter = *a.Setter;
+  setter.AddDateParam(std::make_unique<TDateParam>(TDateParam{5, TimeByDay}));
+  auto twin = std::make_unique<TDateParam>(TDateParam{1, TimeByWeek});
+  TDateParam* second = twin.get();
+  setter.AddDateParam(std::move(twin));
+  EXPECT_EQ(setter.GetUserDefined(), "-1D#5D#1W#1W#1M#3M#6M#1Y");
+  EXPECT_EQ(setter.IndexOfDateParam(second), 3);
+  EXPECT_EQ(setter.DateParamExist({1, TimeByWeek}), second);
+  EXPECT_EQ(setter.DateParamExist({2, TimeByWeek}), nullptr);
+  EXPECT_TRUE(log_.empty());
+}
+
+TEST_F(DateRangeSetterTest, PresetsShownByThirdLinksAreLockedAgainstDeletion) {
+  TestLink caller("A", log_), other("B", log_), dialog("C", log_);
+  TDateRangeSetter& setter = *caller.Setter;
+  caller.UpdateSelection(3);  // 3M
+  other.UpdateSelection(1);   // 1W
+  setter.CheckItemCanDelete(&dialog, &caller);
+  setter.DeleteDateParamIndex(0);
+  setter.DeleteDateParamIndex(1);
+  EXPECT_EQ(setter.GetUserDefined(), "-1D#1W#1M#3M#6M#1Y");
+  EXPECT_TRUE(log_.empty());
+  setter.DeleteDateParamIndex(3);
+  EXPECT_EQ(setter.GetUserDefined(), "-1D#1W#1M#6M#1Y");
+  EXPECT_EQ(caller.Selection, nullptr);
+  EXPECT_EQ(log_, (Log{"A:update", "B:update", "C:update"}));
+  setter.CheckItemCanDelete(&other, nullptr);  // earlier locks are cleared
+  EXPECT_FALSE(setter.GetDateParam(1)->Locked);
+  EXPECT_THROW(setter.DeleteDateParamIndex(5), EListError);
+}
+
+TEST_F(DateRangeSetterTest, TheListLivesAsLongAsItsLinks) {
+  SaveUserPreference("PeriodPreset", "1W");
+  auto first = std::make_unique<TestLink>("A", log_);
+  TDateRangeSetter* setter = first->Setter;
+  EXPECT_EQ(TDateRangeSetter::GetInstance(first.get()), setter);
+  EXPECT_EQ(setter->UILinks().size(), 1u);
+  setter->CreateDateParam(2, TimeByDay, false);
+  {
+    TestLink second("B", log_);
+    EXPECT_EQ(second.Setter, setter);
+    EXPECT_EQ(setter->GetUserDefined(), "2D#1W");
+  }
+  EXPECT_EQ(setter->UILinks(), (std::vector<TUI_Link*>{first.get()}));
+  first.reset();
+  EXPECT_EQ(TDateRangeSetter::Current(), nullptr);
+  TestLink again("C", log_);  // unsaved changes are gone: read from the preferences again
+  EXPECT_EQ(again.Setter->GetUserDefined(), "1W");
+}
+
+TEST_F(DateRangeSetterTest, ReloadClearsSelectionsReadsThePresetsAndReloadsEveryLink) {
+  TDateRangeSetter::Reload();  // no list: nothing happens
+  TestLink a("A", log_), b("B", log_);
+  a.UpdateSelection(2);
+  SaveUserPreference("PeriodPreset", "2D#-1D");
+  TDateRangeSetter::Reload();
+  EXPECT_EQ(a.Setter->GetUserDefined(), "-1D#2D");
+  EXPECT_EQ(log_, (Log{"A:update", "B:update", "A:update", "B:update", "A:reload", "B:reload"}));
+}
+
+TEST_F(DateRangeSetterTest, ResetSelectsAllDatesAndTheDateConditionFollowsTheSelection) {
+  SaveUserPreference("PeriodPreset", "1M");
+  TestLink link("A", log_);
+  const TDateTime march31 = DateOf(DayNumberOf({2024, 3, 31}), 0.5);
+  EXPECT_EQ(link.GetBeforeDateSQL(march31), "");  // nothing selected
+  link.UpdateSelection(0);
+  EXPECT_EQ(link.GetBeforeDateSQL(march31), " CONVERT(datetime, '2024.02.29',102) ");
+  link.SetEnabled(false);
+  EXPECT_EQ(link.GetBeforeDateSQL(march31), "");
+  link.SetEnabled(true);
+  link.Reset();
+  EXPECT_EQ(link.Setter->GetUserDefined(), "-1D#1M");
+  EXPECT_EQ(link.shown, link.Selection);
+  EXPECT_EQ(link.Selection->Count, -1);
+  EXPECT_EQ(link.GetBeforeDateSQL(march31), "");
+}
+
+}  // namespace
+}  // namespace mv::test
