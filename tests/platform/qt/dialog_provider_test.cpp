@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -130,6 +131,19 @@ TEST_F(QtDialogProviderTest, InputQueryCancelLeavesTheValue) {
   KeyWhenShown(Qt::Key_Return);
   EXPECT_TRUE(provider_.InputQuery(request));
   EXPECT_EQ(request.value, u"a value longer than the limit");
+}
+
+TEST_F(QtDialogProviderTest, ScreenCursorIsTheApplicationsOverrideCursor) {
+  ASSERT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  provider_.SetScreenCursor(crHourGlass);
+  ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  provider_.SetScreenCursor(crArrow);
+  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+  // Back to the default leaves no override behind, however many changes came before.
+  provider_.SetScreenCursor(crDefault);
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(provider_.ScreenCursor(), crDefault);
 }
 
 }  // namespace
