@@ -13,11 +13,12 @@ namespace mv {
 inline constexpr size_t kSegxWindow = 255;
 
 // Field `n` (counted from 1) of `s` split at `sep`: for n < 1 the empty text; for n = 1 the text
-// before the first `sep`, or all of `s` when `sep` does not occur; for n > 1 the search goes on
-// in at most 255 characters behind the first `sep` (bytes of narrow text, UTF-16 units of wide
-// text), so a field that starts further than 255 characters behind the separator before it is
-// lost and comes out empty or cut. A field beyond the last one is empty. `sep` is a single-byte
-// character; in wide text it matches the UTF-16 unit of the same code (use an ASCII separator).
+// before the first `sep`, or all of `s` when `sep` does not occur; for n > 1 field n - 1 of at
+// most 255 characters behind the first `sep` (bytes of narrow text, UTF-16 units of wide text),
+// or the empty text when `sep` does not occur. As every step cuts what the step before kept,
+// nothing further than 255 characters behind the first separator is reached: such fields come
+// out empty or cut. `sep` is a single-byte character; in wide text it matches the UTF-16 unit of
+// the same code (use an ASCII separator).
 void SEGX(char sep, std::string_view s, int n, std::string& result);
 void SEGX(char sep, std::u16string_view s, int n, std::u16string& result);
 
