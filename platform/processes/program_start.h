@@ -23,10 +23,11 @@ inline constexpr int32_t kStartBadFormat = 11;    // the file is not a program t
 // start result: kStarted, or one of the values below 32 above. The program runs on by itself; the
 // caller never waits for it and is never left with a finished child to collect.
 // POSIX: the command line is split into words as the shell splits them (blanks separate, quotes
-// and backslashes group), with variables and "~" expanded but no command substitution, no
-// redirection and no pipes; a program name without "/" is looked up on PATH. The program runs in
-// a session of its own. smHidden gives it no terminal: its standard input, output and error are
-// /dev/null. smNormal lets it share the caller's.
+// and backslashes group), with variables, "~" and file-name patterns expanded, but with no command
+// substitution, redirection or pipes (such a command line gives kStartNoCommand); a program name
+// without "/" is looked up on PATH. The program runs in a session of its own. smHidden gives it
+// no terminal: its standard input, output and error are /dev/null. smNormal lets it share the
+// caller's.
 int32_t StartProgram(const std::string& commandLine, TShowMode mode);
 
 }  // namespace mv::processes

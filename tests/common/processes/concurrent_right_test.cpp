@@ -1,6 +1,4 @@
-// Exclusive rights through lock files: within one process and against a real second process.
-#include <signal.h>
-
+// Exclusive rights through lock files, within one process and against a real second process.
 #include <string>
 
 #include <gtest/gtest.h>
@@ -21,14 +19,9 @@ class ConcurrentRightTest : public ::testing::Test {
  protected:
   ConcurrentRightTest() { BasePath = dir_.path() + "/"; }
   ~ConcurrentRightTest() override { ResetSharedState(); }
-
   std::string LockFile() const { return dir_.File("Temp/Stock.lck"); }
-  // A second process holding the right to "Stock"; "held" once it has it.
-  std::unique_ptr<HelperProcess> StartHolder() {
-    auto holder = std::make_unique<HelperProcess>(
-        PROCESS_HELPER, std::vector<std::string>{"hold", dir_.path(), "Stock"});
-    EXPECT_EQ(holder->ReadLine(), "held");
-    return holder;
+  std::string HoldCommand() const {
+    return std::string(PROCESS_HELPER) + " hold " + dir_.path() + " Stock";
   }
 
   TempDir dir_;
@@ -36,37 +29,23 @@ class ConcurrentRightTest : public ::testing::Test {
   dialogs::ScopedProvider provider_{dialogs_};
 };
 
-TEST_F(ConcurrentRightTest, TakesTheRightMakingFolderAndFileWithTheHourglassShown) {
-  EXPECT_EQ(LockFileName("Stock"), LockFile());
+TEST_F(ConcurrentRightTest, TakenOnceByItsHolderAndGivenUp) {
+  dir_.Write("Temp/Stock.lck", "left behind by a copy that ended");
   int32_t handle = -1;
   ASSERT_TRUE(SetConcurrentRight("Stock", handle));
-  EXPECT_GT(handle, 0);
-  EXPECT_TRUE(files::FileExists(LockFile()));
-  EXPECT_EQ(FRetryAccess, 0);
+  EXPECT_EQ(LockFileName("Stock"), LockFile());
   EXPECT_EQ(dialogs_.CursorsSet(),
             (std::vector<dialogs::TCursor>{dialogs::crHourGlass, dialogs::crDefault}));
-  // The holder asking again keeps its handle; nothing else is opened.
   const int32_t first = handle;
-  ASSERT_TRUE(SetConcurrentRight("Stock", handle));
+  ASSERT_TRUE(SetConcurrentRight("Stock", handle));  // the holder again: nothing opened
   EXPECT_EQ(handle, first);
   ResetConcurrentRight(handle);
   EXPECT_EQ(handle, -1);
   EXPECT_TRUE(files::FileExists(LockFile()));
-}
-
-TEST_F(ConcurrentRightTest, ResetWithoutAHeldHandleDoesNothing) {
-  for (int32_t handle : {-1, 0}) {
-    const int32_t before = handle;
-    ResetConcurrentRight(handle);
-    EXPECT_EQ(handle, before);
+  for (int32_t none : {-1, 0}) {
+    ResetConcurrentRight(handle = none);
+    EXPECT_EQ(handle, none);
   }
-}
-
-TEST_F(ConcurrentRightTest, AFileLeftBehindDoesNotBlock) {
-  dir_.Write("Temp/Stock.lck", "left by a copy that ended");
-  int32_t handle = -1;
-  EXPECT_TRUE(SetConcurrentRight("Stock", handle));
-  ResetConcurrentRight(handle);
 }
 
 TEST_F(ConcurrentRightTest, ASecondHandleOfThisProcessIsRefused) {
@@ -83,27 +62,28 @@ TEST_F(ConcurrentRightTest, ASecondHandleOfThisProcessIsRefused) {
 }
 
 TEST_F(ConcurrentRightTest, AnotherProcessHoldsUntilItIsKilled) {
-  std::unique_ptr<HelperProcess> holder = StartHolder();
+  HelperProcess holder(HoldCommand());
+  ASSERT_EQ(holder.ReadLine(), "held");
   int32_t handle = -1;
-  dialogs_.Clear();
   EXPECT_FALSE(SetConcurrentRight("Stock", handle));
   EXPECT_EQ(handle, -1);
   EXPECT_EQ(FRetryAccess, 0);
   EXPECT_EQ(dialogs_.ScreenCursor(), dialogs::crDefault);
-  holder->Signal(SIGKILL);
-  holder->Wait();
-  // The system dropped the dead holder's lock: the very first attempt succeeds.
-  const int32_t taken = files::LockFileExclusive(LockFile());
-  EXPECT_GT(taken, 0);
-  ResetConcurrentRight(handle = taken);
+  holder.Signal(SIGKILL);
+  holder.Wait();
+  handle = files::LockFileExclusive(LockFile());  // the very first attempt succeeds
+  EXPECT_GT(handle, 0);
+  ResetConcurrentRight(handle);
 }
 
 TEST_F(ConcurrentRightTest, DeleteLockFileLeavesAHeldFile) {
   DeleteLockFile("Stock");  // no file: nothing happens
-  std::unique_ptr<HelperProcess> holder = StartHolder();
-  DeleteLockFile("Stock");
-  EXPECT_TRUE(files::FileExists(LockFile()));
-  holder.reset();
+  {
+    HelperProcess holder(HoldCommand());
+    ASSERT_EQ(holder.ReadLine(), "held");
+    DeleteLockFile("Stock");
+    EXPECT_TRUE(files::FileExists(LockFile()));
+  }
   int32_t handle = -1;
   ASSERT_TRUE(SetConcurrentRight("Stock", handle));
   DeleteLockFile("Stock");

@@ -1,39 +1,51 @@
-// A program run as a separate process for cross-process tests: its standard input and output are
-// pipes to the test, so the test can tell it when to start and read what it reports.
+// A program started through the shell for cross-process tests: the test reads what it prints and
+// knows its process number (printed by the shell before it becomes the program), to signal it.
 #pragma once
 
-#include <sys/types.h>
+#include <signal.h>
+#include <sys/wait.h>
 
+#include <cstdio>
+#include <stdexcept>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace mv::test {
 
 class HelperProcess {
  public:
-  // Starts `program` with `args`; standard error stays the test's.
-  HelperProcess(const std::string& program, const std::vector<std::string>& args);
-  // Kills the process if it still runs and collects it.
-  ~HelperProcess();
-  HelperProcess(const HelperProcess&) = delete;
-  HelperProcess& operator=(const HelperProcess&) = delete;
-
-  // Writes `text` to the process's standard input.
-  void Send(const std::string& text);
-  // The next line the process prints, without its line end; empty at the end of its output.
-  std::string ReadLine();
-  // Everything the process prints until it ends.
-  std::string ReadAll();
-  // Sends `signal` to the process.
-  void Signal(int signal);
-  // Waits for the process to end: its exit code, or -1 when a signal ended it.
-  int Wait();
+  explicit HelperProcess(const std::string& commandLine)
+      : out_(::popen(("echo $$; exec " + commandLine).c_str(), "r")) {
+    if (out_ == nullptr) throw std::runtime_error("cannot start " + commandLine);
+    pid_ = std::stoi(ReadLine());
+  }
+  ~HelperProcess() {
+    if (out_ != nullptr) Signal(SIGKILL), Wait();
+  }
+  // The next line printed, without its line end; empty at the end of the output.
+  std::string ReadLine() {
+    char line[4096];
+    std::string text = std::fgets(line, sizeof line, out_) != nullptr ? line : "";
+    if (!text.empty() && text.back() == '\n') text.pop_back();
+    return text;
+  }
+  // Everything printed until the program ends.
+  std::string ReadAll() {
+    std::string text;
+    char chunk[4096];
+    for (size_t n; (n = std::fread(chunk, 1, sizeof chunk, out_)) > 0;) text.append(chunk, n);
+    return text;
+  }
+  void Signal(int signal) const { ::kill(pid_, signal); }
+  // Waits for the end: the exit code, or -1 when a signal ended the program.
+  int Wait() {
+    const int status = ::pclose(std::exchange(out_, nullptr));
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
 
  private:
-  pid_t pid_ = -1;
-  int input_ = -1;
-  int output_ = -1;
-  std::string buffer_;
+  std::FILE* out_;
+  int pid_ = 0;
 };
 
 }  // namespace mv::test

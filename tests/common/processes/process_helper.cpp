@@ -1,16 +1,13 @@
-// The other process of the cross-process tests. Commands:
-//   hold BASE RESOURCE            takes the lock, prints "held" or "busy", then (held) waits to
-//                                 be killed
-//   cycle BASE RESOURCE N LOG     after a line on standard input, takes and gives up the lock N
-//                                 times, appending "+pid" and "-pid" lines to LOG around each hold
-//   temp FOLDER EXT N             after a line on standard input, makes N temporary files and
-//                                 prints "result name" for each
-// BASE is the base folder (BasePath without its separator). Exit code 0 when all went well.
+// The other process of the cross-process tests. BASE is BasePath without its separator.
+//   hold BASE RESOURCE          takes the lock and prints "held" (then waits to be killed) or
+//   "busy" cycle BASE RESOURCE N LOG GO  once the file GO exists, takes and gives up the lock N
+//   times,
+//                               appending "+pid" and "-pid" lines to LOG around each hold
+//   temp FOLDER N GO            once GO exists, makes N ".tmp" files, printing "result name" each
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdio>
-#include <iostream>
 #include <string>
 
 #include "common/frame/shared_state.h"
@@ -19,9 +16,8 @@
 
 namespace {
 
-void WaitForGo() {
-  std::string line;
-  std::getline(std::cin, line);
+void WaitFor(const char* goFile) {
+  while (::access(goFile, F_OK) != 0) ::usleep(1000);
 }
 
 void Append(int log, char sign) {
@@ -29,19 +25,7 @@ void Append(int log, char sign) {
   if (::write(log, line.data(), line.size()) != static_cast<ssize_t>(line.size())) _exit(3);
 }
 
-int Hold(const std::string& resource) {
-  int32_t handle = -1;
-  const bool held = mv::SetConcurrentRight(resource, handle);
-  std::printf("%s\n", held ? "held" : "busy");
-  std::fflush(stdout);
-  if (!held) return 1;
-  for (;;) ::pause();
-}
-
-int Cycle(const std::string& resource, int count, const std::string& logFile) {
-  const int log = ::open(logFile.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0644);
-  if (log < 0) return 2;
-  WaitForGo();
+int Cycle(const std::string& resource, int count, int log) {
   for (int held = 0; held < count;) {
     int32_t handle = -1;
     if (!mv::SetConcurrentRight(resource, handle)) continue;
@@ -54,24 +38,31 @@ int Cycle(const std::string& resource, int count, const std::string& logFile) {
   return 0;
 }
 
-int Temp(const std::string& folder, const std::string& extension, int count) {
-  WaitForGo();
-  for (int i = 0; i < count; ++i) {
-    std::string name;
-    const int32_t result = mv::GetTemporaryFile(folder, extension, name);
-    std::printf("%d %s\n", result, name.c_str());
-  }
-  return 0;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
   const std::string command = argc > 1 ? argv[1] : "";
-  if (command == "temp" && argc == 5) return Temp(argv[2], argv[3], std::stoi(argv[4]));
+  if (command == "temp" && argc == 5) {
+    WaitFor(argv[4]);
+    for (int i = std::stoi(argv[3]); i > 0; --i) {
+      std::string name;
+      const int32_t result = mv::GetTemporaryFile(argv[2], ".tmp", name);
+      std::printf("%d %s\n", result, name.c_str());
+    }
+    return 0;
+  }
   if (argc < 4) return 2;
   mv::BasePath = std::string(argv[2]) + "/";
-  if (command == "hold") return Hold(argv[3]);
-  if (command == "cycle" && argc == 6) return Cycle(argv[3], std::stoi(argv[4]), argv[5]);
-  return 2;
+  int32_t handle = -1;
+  if (command == "hold") {
+    const bool held = mv::SetConcurrentRight(argv[3], handle);
+    std::printf("%s\n", held ? "held" : "busy");
+    std::fflush(stdout);
+    while (held) ::pause();
+    return 1;
+  }
+  if (command != "cycle" || argc != 7) return 2;
+  const int log = ::open(argv[5], O_WRONLY | O_CREAT | O_APPEND, 0644);
+  WaitFor(argv[6]);
+  return log < 0 ? 2 : Cycle(argv[3], std::stoi(argv[4]), log);
 }

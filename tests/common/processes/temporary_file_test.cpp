@@ -1,5 +1,5 @@
-// Temporary file names: the base-36 name form, base names blocked by any extension, and the
-// failure after the last attempt.
+// Temporary file names: the base-36 name form, base names blocked by any extension, the failure
+// after the last attempt.
 #include <ctime>
 #include <string>
 
@@ -14,35 +14,21 @@ namespace {
 TEST(TemporaryBaseName, DigitsOfTheClockAndTheAttempt) {
   EXPECT_EQ(TemporaryBaseName(12, 3, 14, 5, 7, 1), "C3E08J01");
   EXPECT_EQ(TemporaryBaseName(1, 1, 0, 0, 0, 1), "11000001");
-  // The largest of each part: day 31 is V, hour 23 N, 59:59 is 3599 = 2RZ, attempt 1000 = RS.
-  EXPECT_EQ(TemporaryBaseName(12, 31, 23, 59, 59, 1000), "CVN2RZRS");
-  // 36 seconds and attempt 36 carry into the next digit.
-  EXPECT_EQ(TemporaryBaseName(10, 10, 10, 0, 36, 36), "AAA01010");
+  EXPECT_EQ(TemporaryBaseName(12, 31, 23, 59, 59, 1000), "CVN2RZRS");  // the largest parts
+  EXPECT_EQ(TemporaryBaseName(10, 10, 10, 0, 36, 36), "AAA01010");     // 36 carries
 }
 
 // The base name of `attempt` at `seconds` from now, as GetTemporaryFile makes it.
-std::string BaseNameAt(int secondsFromNow, int attempt) {
-  const std::time_t when = std::time(nullptr) + secondsFromNow;
+std::string BaseNameAt(int seconds, int attempt) {
+  const std::time_t when = std::time(nullptr) + seconds;
   const std::tm* t = std::localtime(&when);
   return TemporaryBaseName(t->tm_mon + 1, t->tm_mday, t->tm_hour, t->tm_min, t->tm_sec, attempt);
 }
 
-TEST(GetTemporaryFile, MakesAnEmptyFileInTheFolderWithOrWithoutSeparator) {
+TEST(GetTemporaryFile, SkipsBaseNamesTakenWithAnyExtensionOrCase) {
   TempDir dir;
-  for (const std::string& folder : {dir.path(), dir.path() + "/"}) {
-    std::string name;
-    ASSERT_EQ(GetTemporaryFile(folder, ".tmp", name), 0);
-    ASSERT_EQ(name.size(), dir.path().size() + 1 + 8 + 4) << name;
-    EXPECT_EQ(name.substr(0, dir.path().size() + 1), dir.path() + "/");
-    EXPECT_EQ(name.substr(name.size() - 4), ".tmp");
-    EXPECT_EQ(dir.Read(name.substr(dir.path().size() + 1)), "");
-  }
-}
-
-TEST(GetTemporaryFile, AnyFileOfTheBaseNameMovesToTheNextAttempt) {
-  TempDir dir;
-  // For the next seconds, attempt 1 is taken by another extension and attempt 2 by a file without
-  // one whose name differs in case only.
+  // For the next half minute attempt 1 is taken by another extension, attempt 2 by a file
+  // without one whose name differs in case only.
   for (int s = -1; s <= 30; ++s) {
     dir.Write(BaseNameAt(s, 1) + ".old", "x");
     std::string second = BaseNameAt(s, 2);
@@ -50,11 +36,12 @@ TEST(GetTemporaryFile, AnyFileOfTheBaseNameMovesToTheNextAttempt) {
     dir.Write(second, "x");
   }
   std::string name;
-  ASSERT_EQ(GetTemporaryFile(dir.path(), ".tmp", name), 0);
-  EXPECT_EQ(name.substr(name.size() - 6), "03.tmp");
-  // The file just made blocks its own name too.
+  ASSERT_EQ(GetTemporaryFile(dir.path(), ".tmp", name), 0);  // no separator given
+  EXPECT_EQ(name.substr(0, dir.path().size() + 1), dir.path() + "/");
+  EXPECT_EQ(name.substr(dir.path().size() + 7), "03.tmp");
+  EXPECT_EQ(dir.Read(name.substr(dir.path().size() + 1)), "");
   std::string next;
-  ASSERT_EQ(GetTemporaryFile(dir.path(), ".tmp", next), 0);
+  ASSERT_EQ(GetTemporaryFile(dir.path() + "/", ".tmp", next), 0);
   EXPECT_NE(next, name);
 }
 
