@@ -17,7 +17,8 @@ inline constexpr std::string_view kDatabaseOption = "db";
 inline constexpr std::string_view kDemoUser = "DEMO";
 
 // The connection string the command should use, in the order above; an empty --db or
-// MV_DBMAIN counts as not given.
+// MV_DBMAIN counts as not given. Raises mv::db::EDatabaseError when it would be the demo
+// database and that has not been built.
 std::string MainConnectionString(const ParsedArgs& args);
 
 // Opens the connection DBMAIN with MainConnectionString(args); raises mv::db::EDatabaseError
