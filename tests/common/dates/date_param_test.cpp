@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
 
 #include "common/dates/date_param.h"
 #include "common/text/lang_changer.h"
@@ -17,7 +18,9 @@ TDateTime At(int64_t year, int month, int day, double hours = 0) {
 
 std::string Ymd(TDateTime date) {
   const TCalendarDate d = CalendarDateOf(DayOf(date));
-  return std::to_string(d.Year) + "-" + std::to_string(d.Month) + "-" + std::to_string(d.Day);
+  char text[48];
+  std::snprintf(text, sizeof text, "%d-%d-%d", static_cast<int>(d.Year), d.Month, d.Day);
+  return text;
 }
 
 TEST(DateParam, UnreadableTextsAreAllDatesAndLocked) {
@@ -32,23 +35,16 @@ TEST(DateParam, UnreadableTextsAreAllDatesAndLocked) {
   EXPECT_EQ(ParseDateParam("3X").TimeUnit, TimeByDay);
 }
 
-TEST(DateParam, ReadsTrimmedCountAndUnitAndWritesThemBack) {
+TEST(DateParam, ReadsTrimmedTextWritesItBackAndMatchesCountAndUnit) {
   const TDateParam three = ParseDateParam(" \t3M\r\n");
-  EXPECT_EQ(three.Count, 3);
-  EXPECT_EQ(three.TimeUnit, TimeByMonth);
+  EXPECT_EQ(three.ToString(), "3M");
   EXPECT_FALSE(three.Locked);
   EXPECT_EQ(ParseDateParam("+2Y").ToString(), "2Y");
-  EXPECT_EQ(ParseDateParam("0D").ToString(), "0D");
   EXPECT_EQ(ParseDateParam("-2W").ToString(), "-2W");
   EXPECT_EQ(ParseDateParam("2147483647W").Count, 2147483647);
-  EXPECT_EQ(TDateParam{}.ToString(), "-1D");
-}
-
-TEST(DateParam, MatchComparesCountAndUnit) {
-  EXPECT_TRUE((TDateParam{3, TimeByMonth, false}).Match({3, TimeByMonth, true}));
-  EXPECT_FALSE((TDateParam{3, TimeByMonth}).Match({3, TimeByWeek}));
-  EXPECT_FALSE((TDateParam{1, TimeByMonth}).Match({3, TimeByMonth}));
-  EXPECT_TRUE((TDateParam{-1, TimeByYear}).Match({-1, TimeByDay}));
+  EXPECT_TRUE(three.Match({3, TimeByMonth, true}));
+  EXPECT_FALSE(three.Match({3, TimeByWeek}));
+  EXPECT_FALSE(three.Match({1, TimeByMonth}));
 }
 
 class DateParamCaption : public TextFixture {
@@ -60,57 +56,38 @@ TEST_F(DateParamCaption, EnglishAndChineseCaptions) {
   LangChanger().SetLanguage(kLangEnglish);
   EXPECT_EQ((TDateParam{1, TimeByDay}).Description(), "Last 1 Day");
   EXPECT_EQ((TDateParam{0, TimeByDay}).Description(), "Last 0 Days");
-  EXPECT_EQ((TDateParam{-2, TimeByWeek}).Description(), "Last -2 Weeks");
-  EXPECT_EQ((TDateParam{3, TimeByMonth}).DescriptionW(), u"Last 3 Months");
   EXPECT_EQ(TDateParam{}.Description(), "[All]");
   LangChanger().SetLanguage(kLangChinese);
   EXPECT_EQ((TDateParam{1, TimeByWeek}).DescriptionW(), u"最近1星期");
   EXPECT_EQ((TDateParam{3, TimeByMonth}).Description(), Big5("最近3月"));
-  EXPECT_EQ((TDateParam{1, TimeByYear}).DescriptionW(), u"最近1年");
   EXPECT_EQ(TDateParam{}.DescriptionW(), u"[所有]");
+  std::u16string other = u"個工作天";  // the tables may be replaced
+  TimeUnitChiDesc[TimeByDay].swap(other);
+  EXPECT_EQ((TDateParam{5, TimeByDay}).DescriptionW(), u"最近5個工作天");
+  TimeUnitChiDesc[TimeByDay].swap(other);
 }
 
-TEST_F(DateParamCaption, ReplacedUnitNamesAreUsed) {
-  LangChanger().SetLanguage(kLangEnglish);
-  const std::u16string old = TimeUnitEngDescMulti[TimeByDay];
-  TimeUnitEngDescMulti[TimeByDay] = u"Business Days";
-  EXPECT_EQ((TDateParam{5, TimeByDay}).DescriptionW(), u"Last 5 Business Days");
-  TimeUnitEngDescMulti[TimeByDay] = old;
-}
-
-TEST(DateParam, RollingRangesKeepOrDropTheTimeOfDay) {
+TEST(DateParam, RollingRangesKeepOrDropTheTimeOfDayWithinTheCalendar) {
   EXPECT_EQ(Ymd((TDateParam{1, TimeByMonth}).GetRangeFromDate(At(2024, 5, 31))), "2024-4-30");
   EXPECT_EQ(Ymd((TDateParam{1, TimeByMonth}).GetRangeFromDate(At(2023, 3, 31))), "2023-2-28");
   EXPECT_EQ(Ymd((TDateParam{1, TimeByYear}).GetRangeFromDate(At(2024, 2, 29))), "2023-2-28");
-  EXPECT_EQ(Ymd((TDateParam{4, TimeByYear}).GetRangeFromDate(At(2024, 2, 29))), "2020-2-29");
   EXPECT_EQ(Ymd((TDateParam{14, TimeByMonth}).GetRangeFromDate(At(2024, 1, 15))), "2022-11-15");
   EXPECT_EQ(Ymd((TDateParam{-2, TimeByMonth}).GetRangeFromDate(At(2024, 12, 31))), "2025-2-28");
   EXPECT_EQ((TDateParam{1, TimeByMonth}).GetRangeFromDate(At(2024, 3, 31, 14.5)), At(2024, 2, 29));
   EXPECT_EQ((TDateParam{2, TimeByDay}).GetRangeFromDate(At(2024, 3, 1, 6)), At(2024, 2, 28, 6));
   EXPECT_EQ((TDateParam{1, TimeByWeek}).GetRangeFromDate(At(2024, 1, 3, 12)), At(2023, 12, 27, 12));
   EXPECT_EQ(TDateParam{}.GetRangeFromDate(At(2024, 1, 3)), TDateTime{0});
-}
-
-TEST(DateParam, RangesAcrossDayZeroAndTheCalendarsEnds) {
   // Before 30 December 1899 the whole days count back and the time of day forward.
   EXPECT_EQ((TDateParam{1, TimeByDay}).GetRangeFromDate({0.25}), TDateTime{-1.25});
-  EXPECT_EQ((TDateParam{2, TimeByDay}).GetRangeFromDate({1.75}), TDateTime{-1.75});
   EXPECT_EQ(Ymd((TDateParam{2147483647, TimeByYear}).GetRangeFromDate(At(2024, 1, 1))), "1-1-1");
-  EXPECT_EQ(Ymd((TDateParam{-2147483647, TimeByWeek}).GetRangeFromDate(At(2024, 1, 1))),
-            "9999-12-31");
   EXPECT_EQ(Ymd((TDateParam{0, TimeByDay}).GetRangeFromDate({NAN})), "1899-12-30");
 }
 
 TEST(DateParam, SqlDateExpression) {
   EXPECT_EQ((TDateParam{1, TimeByMonth}).GetBeforeDateSQL(At(2024, 3, 31, 14 + 5 / 60.0)),
             " CONVERT(datetime, '2024.02.29',102) ");
-  EXPECT_EQ((TDateParam{2, TimeByDay}).GetBeforeDateSQL(At(2024, 1, 2, 23.9)),
-            " CONVERT(datetime, '2023.12.31',102) ");
-  EXPECT_EQ((TDateParam{2147483647, TimeByYear}).GetBeforeDateSQL(At(2024, 1, 1)),
-            " CONVERT(datetime, '0001.01.01',102) ");
   EXPECT_EQ(TDateParam{}.GetBeforeDateSQL(At(2024, 3, 31)), "");
   EXPECT_EQ((TDateParam{0, TimeByDay}).GetBeforeDateSQL({0}), "");
-  EXPECT_NE((TDateParam{0, TimeByDay}).GetBeforeDateSQL({0.5}), "");
 }
 
 }  // namespace
