@@ -1,141 +1,139 @@
-// Message keys and types: SEGX on both text forms, and GetMsgType on a copy of the demo
-// database's mailbox tables.
+// SEGX in both text forms, GetMsgType on a copy of the demo database's mailbox tables, the
+// message-type lists of each language, and the split of real signed message files.
 #include "common/services/msg_types.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 
 #include "common/frame/errors.h"
 #include "common/services/msg_fields.h"
+#include "common/services/msg_lists.h"
+#include "common/services/signed_files.h"
+#include "common/text/lang_changer.h"
 #include "platform/db/connections.h"
-#include "platform/db/dataset.h"
-#include "platform/db/db_error.h"
+#include "tests/common/text/text_fixture.h"
 #include "tests/platform/db/db_fixture.h"
-#include "tests/support/temp_dir.h"
 
-namespace mv {
+namespace mv::test {
 namespace {
 
-std::string Segx(std::string_view s, int n, char sep = ',') {
-  std::string result = "unset";
-  SEGX(sep, s, n, result);
+template <class Text>
+Text Segx(const Text& s, int n) {
+  Text result(1, 'x');
+  SEGX(',', s, n, result);
   return result;
 }
 
-std::u16string SegxW(std::u16string_view s, int n) {
-  std::u16string result = u"unset";
-  SEGX('|', s, n, result);
-  return result;
-}
-
-TEST(SegxTest, FieldsCountFromOneAndMissingOnesAreEmpty) {
-  EXPECT_EQ(Segx("a,b,c", 1), "a");
-  EXPECT_EQ(Segx("a,b,c", 3), "c");
-  EXPECT_EQ(Segx("a,b,c", 4), "");
-  EXPECT_EQ(Segx("a,b,c", 0), "");
-  EXPECT_EQ(Segx("a,b,c", -1), "");
-  EXPECT_EQ(Segx("whole", 1), "whole");
-  EXPECT_EQ(Segx("whole", 2), "");
-  EXPECT_EQ(Segx(",,x,", 3), "x");
-  EXPECT_EQ(Segx(",,x,", 4), "");
-  EXPECT_EQ(SegxW(u"報單|貨物|", 2), u"貨物");
-  EXPECT_EQ(SegxW(u"報單", 1), u"報單");
-  EXPECT_EQ(SegxW(u"報單", 2), u"");
-}
-
-TEST(SegxTest, EachStepKeepsAtMost255CharactersBehindTheSeparator) {
-  const std::string near(254, 'n');
-  EXPECT_EQ(Segx("a," + near + ",z", 3), "");  // z starts at the 256th character: cut away
-  EXPECT_EQ(Segx("a," + near.substr(1) + ",z", 3), "z");
-  EXPECT_EQ(Segx("a," + std::string(300, 'x'), 2), std::string(255, 'x'));
+TEST(SegxTest, FieldsAndThe255CharacterWindow) {
+  const std::string abc = "a,b,c";
+  EXPECT_EQ(Segx(abc, 3) + Segx(abc, 4) + Segx(abc, 0) + "|" + Segx<std::string>("w", 1), "c|w");
+  // Each step cuts what the step before kept to 255 characters (UTF-16 units when wide).
   const std::u16string wide(254, u'貨');
-  EXPECT_EQ(SegxW(u"a|" + wide + u"|z", 3), u"");
-  EXPECT_EQ(SegxW(u"a|" + wide.substr(1) + u"|z", 3), u"z");
-  // Every step cuts what the step before kept, so nothing past the first 255 characters behind
-  // the first separator is reached, however short the fields.
+  EXPECT_EQ(Segx(u"a," + wide + u",z", 3), u"");
+  EXPECT_EQ(Segx(u"a," + wide.substr(1) + u",z", 3), u"z");
   std::string chain;
   for (int i = 0; i < 40; ++i) chain += std::string(20, 'f') + ",";
-  EXPECT_EQ(Segx(chain, 13), std::string(20, 'f'));
-  EXPECT_EQ(Segx(chain, 14), "fff");
-  EXPECT_EQ(Segx(chain + "end", 41), "");
+  EXPECT_EQ(Segx(chain, 14) + "|" + Segx(chain, 15), "fff|");
 }
 
-// Day numbers of the demo's stored messages (a tenth of a second is about 1.16e-6 days).
-constexpr double kTenth = 1.0 / 864000;
-
-class GetMsgTypeTest : public ::testing::Test {
+class MsgTypesTest : public TextFixture {
  protected:
-  GetMsgTypeTest() {
+  MsgTypesTest() {
     std::filesystem::copy_file(MV_DEMO_DATABASE_FILE, dir_.File("mail.db"));
     db::OpenConnection("DBMAIN", "sqlite:" + dir_.File("mail.db"));
   }
-  ~GetMsgTypeTest() override { db::CloseConnection("DBMAIN"); }
-
-  double Stored(const std::string& table, const std::string& refNo) {
-    db::TMVADODataSet rows;
-    rows.SetCommandText("select DateTime from " + table + " where RefNo = :r");
-    rows.Parameters()[0].Value = refNo;
-    rows.Open();
-    return rows.Fields(0).AsFloat();
-  }
-  std::string TypeOf(const std::string& table, double when, const std::string& refNo,
-                     const std::string& sender, int mode = 1) {
+  ~MsgTypesTest() override { db::CloseConnection("DBMAIN"); }
+  std::string TypeOf(double when, const std::string& refNo, const std::string& sender,
+                     int mode = 1) {
     std::string result = "unset";
-    GetMsgType(table, MakeMsgKey(when, refNo, sender), mode, result);
+    GetMsgType("Inbox", MakeMsgKey(when, refNo, sender), mode, result);
     return result;
   }
 
-  test::TempDir dir_;
+  TempDir dir_;
 };
 
-TEST_F(GetMsgTypeTest, StoredMessagesMatchWithinATenthOfASecond) {
-  const double t = Stored("Inbox", "TD24000124");
-  EXPECT_EQ(TypeOf("Inbox", t, "TD24000124", "hkgovt"), "HKCTRA");
-  EXPECT_EQ(TypeOf("Inbox", t + 0.9 * kTenth, "TD24000124", "hkgovt"), "HKCTRA");
-  EXPECT_EQ(TypeOf("Inbox", t - 0.9 * kTenth, "TD24000124", "hkgovt"), "HKCTRA");
-  EXPECT_EQ(TypeOf("Inbox", t + 1.1 * kTenth, "TD24000124", "hkgovt"), "");
-  EXPECT_EQ(TypeOf("Inbox", t - 1.1 * kTenth, "TD24000124", "hkgovt"), "");
-  EXPECT_EQ(TypeOf("Inbox", t, "TD24000124", "HKGOVT"), "");
-  EXPECT_EQ(TypeOf("Sentbox", Stored("Sentbox", "TD24000124"), "TD24000124", "MVDEMO01", 2),
-            "HKTDAM\x01MVDEMO01\x01hkgovt");
-}
-
-TEST_F(GetMsgTypeTest, FirstRowInTheWindowWinsAndALaterRowEndsTheWalk) {
-  test::Exec(
-      "insert into Inbox (RefNo, DateTime, Sender, MType, Recipient) values "
-      "('R1', 100.0, 'S', 'EARLY', 'me'), ('R1', 100.0 + 0.5 / 864000, 'S', 'LATE', 'me'),"
-      "('R1', 200.0, 'S', 'NEXT', 'me')");
-  EXPECT_EQ(TypeOf("Inbox", 100.0 + 0.4 / 864000, "R1", "S"), "EARLY");
-  EXPECT_EQ(TypeOf("Inbox", 150.0, "R1", "S"), "");
-  EXPECT_EQ(TypeOf("Inbox", 200.0, "R1", "S", 2), "NEXT\x01S\x01me");
-  // Rows returned out of date order: the later row ends the walk before the matching one.
-  test::Exec("create table Unsorted (RefNo, DateTime, Sender, MType, Recipient)");
-  test::Exec(
-      "insert into Unsorted values ('R', 9.0, 'S', 'LATER', 'me'), ('R', 5.0, 'S', 'X', 'me')");
-  EXPECT_EQ(TypeOf("Unsorted", 9.0, "R", "S"), "LATER");
-  EXPECT_EQ(TypeOf("Unsorted", 5.0, "R", "S"), "");
-}
-
-TEST_F(GetMsgTypeTest, QuotesInTheKeyAreValuesNotSql) {
-  test::Exec(
-      "insert into Outbox (RefNo, DateTime, Sender, MType, Recipient) values "
-      "('O''NEIL-1', 300.25, 'a''b', 'HKTDEC', 'hkgovt')");
-  EXPECT_EQ(TypeOf("Outbox", 300.25, "O'NEIL-1", "a'b"), "HKTDEC");
-  EXPECT_EQ(TypeOf("Outbox", 300.25, "x' or '1'='1", "a'b"), "");
-  EXPECT_EQ(TypeOf("Outbox", 300.25, "'; drop table Outbox; --", "a'b"), "");
-  EXPECT_EQ(TypeOf("Outbox", 300.25, "O'NEIL-1", "a'b"), "HKTDEC");
-}
-
-TEST_F(GetMsgTypeTest, BadKeysAndTablesGoToTheCaller) {
+TEST_F(MsgTypesTest, StoredMessagesMatchWithinATenthOfASecond) {
+  const double t = 45601.0 + (14 * 3600 + 2 * 60 + 47) / 86400.0;  // demo row TD24000124
+  for (const auto& [tenths, type] :
+       {std::pair{0.9, "HKCTRA"}, {-0.9, "HKCTRA"}, {1.1, ""}, {-1.1, ""}})
+    EXPECT_EQ(TypeOf(t + tenths / 864000, "TD24000124", "hkgovt"), type) << tenths;
+  Exec(
+      "insert into Inbox (RefNo, DateTime, Sender, MType, Recipient) values ('R', 1, 'S', 'A', "
+      "'me'), ('R', 1 + 0.5 / 864000, 'S', 'B', 'me'), ('O''NEIL', 9, 'a''b', 'C', 'me')");
+  EXPECT_EQ(TypeOf(1 + 0.4 / 864000, "R", "S", 2), "A\x01S\x01me");  // the first in the window
+  EXPECT_EQ(TypeOf(9, "O'NEIL", "a'b"), "C");                        // quotes are values, not SQL
+  EXPECT_EQ(TypeOf(9, "x' or '1'='1", "a'b"), "");
   std::string result = "old";
-  EXPECT_THROW(GetMsgType("Inbox", "yesterday\x01R\x01S", 1, result), EConvertError);
+  EXPECT_THROW(GetMsgType("Inbox", "today\x01R\x01S", 1, result), EConvertError);
   EXPECT_EQ(result, "");
-  EXPECT_THROW(GetMsgType("Inbox", "", 1, result), EConvertError);
-  EXPECT_THROW(GetMsgType("NoSuchBox", "1.5\x01R\x01S", 1, result), db::EDatabaseError);
-  GetMsgType("Inbox", " 45601.5 \x01TD24000124", 1, result);  // no sender: nothing found
-  EXPECT_EQ(result, "");
+}
+
+TEST_F(MsgTypesTest, TypeListsFollowTheLanguage) {
+  installation_.WriteSystemIni("[E]\nHKTDEC=Declaration\n[C]\nHKTDEC=" + Big5("報關") + "\n");
+  Global_Merovan_Ini = "SEDIFSYS.INI";
+  const std::pair<uint8_t, TStringList> cases[] = {{kLangEnglish, {"HKTDEC=Declaration"}},
+                                                   {kLangChinese, {"HKTDEC=" + Big5("報關")}},
+                                                   {kLangSimplified, {"HKTDEC=" + Gbk("报关")}},
+                                                   {2, {}}};
+  for (const auto& [language, lines] : cases) {
+    LangChanger().SetLanguage(language);
+    EXPECT_EQ(*GetMsgList("TDEC=E,C"), lines) << int(language);
+  }
+  EXPECT_EQ(*GetMsgList("C,NONE"), TStringList{});
+}
+
+namespace fs = std::filesystem;
+
+class SignedFilesTest : public ::testing::Test {
+ protected:
+  int Split(const std::string& name, std::string_view bytes) {
+    return XMLInitMsgList(dir_.Write(name, bytes), data_, sig_);
+  }
+
+  TempDir dir_;
+  std::string data_, sig_;
+};
+
+TEST_F(SignedFilesTest, SplitsCrLfAndLfFilesAlike) {
+  for (const std::string end : {"\r\n", "\n"}) {
+    ASSERT_EQ(Split("m.v1.xml", "<T>" + end + "\t<No>1</No> " + end + "<electronicSignature>" +
+                                    end + "  MIIB " + end + "</electronicSignature></T>" + end),
+              kSplitDone);
+    EXPECT_EQ(data_, dir_.File("m.v1.d"));
+    EXPECT_EQ(dir_.Read("m.v1.d") + "|" + dir_.Read("m.v1.s"),
+              "<T><No>1</No><electronicSignature>|MIIB");
+  }
+  ASSERT_EQ(Split("x.y/signed", "<electronicSignature></electronicSignature>"), kSplitDone);
+  EXPECT_EQ(sig_, dir_.File("x.y/signed.s"));
+  EXPECT_TRUE(fs::exists(sig_) && fs::file_size(sig_) == 0);  // an empty signature
+}
+
+TEST_F(SignedFilesTest, EveryFailureHasItsCodeAndLeavesNoParts) {
+  EXPECT_EQ(Split("t.xml", "<doc/>"), kSplitNoTags);
+  EXPECT_EQ(Split("t.xml", "s</electronicSignature>"), kSplitNoOpening);
+  EXPECT_EQ(Split("t.xml", "<electronicSignature>s"), kSplitNoClosing);
+  EXPECT_EQ(Split("t.xml", "</electronicSignature><electronicSignature>"), kSplitTagsReversed);
+  EXPECT_EQ(XMLInitMsgList("", data_, sig_), kSplitNoFileName);
+  EXPECT_EQ(XMLInitMsgList(dir_.File("absent.xml"), data_, sig_), kSplitNotFound);
+  // A folder where a part belongs stops even root; the part already written is removed.
+  dir_.MakeDir("w.s");
+  EXPECT_EQ(Split("w.xml", "<electronicSignature>s</electronicSignature>"), kSplitWriteError);
+  EXPECT_EQ(data_ + sig_, "");
+  EXPECT_FALSE(fs::exists(dir_.File("w.d")) || fs::exists(dir_.File("t.d")));
+}
+
+TEST_F(SignedFilesTest, ReadOnlyFolderAndUnreadableFile) {
+  if (geteuid() == 0) GTEST_SKIP() << "permission bits do not stop root";
+  const std::string file = dir_.Write("ro/m.xml", "<electronicSignature></electronicSignature>");
+  fs::permissions(dir_.File("ro"), fs::perms::owner_read | fs::perms::owner_exec);
+  EXPECT_EQ(XMLInitMsgList(file, data_, sig_), kSplitWriteError);
+  fs::permissions(file, fs::perms::none);
+  EXPECT_EQ(XMLInitMsgList(file, data_, sig_), kSplitReadError);
+  fs::permissions(dir_.File("ro"), fs::perms::owner_all);
 }
 
 }  // namespace
-}  // namespace mv
+}  // namespace mv::test
