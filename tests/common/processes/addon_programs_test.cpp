@@ -4,7 +4,6 @@
 
 #include <chrono>
 #include <stdexcept>
-#include <string>
 #include <thread>
 
 #include <gtest/gtest.h>
@@ -23,10 +22,10 @@ namespace {
 class AddonProgramsTest : public ::testing::Test {
  protected:
   ~AddonProgramsTest() override { ResetSharedState(); }
-  // A command line that writes the output of `command` to the file `name`, whole once it exists.
+  // Shell text that writes the output of `command` to the file `name`, whole once it exists.
   std::string Writes(const std::string& command, const std::string& name) const {
     const std::string file = dir_.File(name);
-    return "sh -c '" + command + " > " + file + ".part && mv " + file + ".part " + file + "'";
+    return command + " > " + file + ".part && mv " + file + ".part " + file;
   }
   // The file `name` once a started program has written it.
   std::string WaitForFile(const std::string& name) const {
@@ -35,7 +34,6 @@ class AddonProgramsTest : public ::testing::Test {
     }
     return dir_.Read(name);
   }
-  // The message of what CallHook raises.
   std::string CallHookError() {
     try {
       CallHook("Stock Manager", "stockmgr", 1, 2);
@@ -47,20 +45,17 @@ class AddonProgramsTest : public ::testing::Test {
   TempDir dir_;
 };
 
-TEST_F(AddonProgramsTest, RunDosStartsHiddenOrTellsWhyNot) {
-  EXPECT_GE(RunDOS(Writes("readlink /proc/self/fd/0", "out")), 32);
+TEST_F(AddonProgramsTest, ProgramsStartHiddenOrSayWhyNotAndHaveNoWindow) {
+  EXPECT_GE(RunDOS("sh -c '" + Writes("readlink /proc/self/fd/0", "out") + "'"), 32);
   EXPECT_EQ(WaitForFile("out"), "/dev/null\n");
+  EXPECT_FALSE(RunApp(("sh -c '" + Writes("echo app", "app") + "'").c_str(), "Stock Manager"));
+  EXPECT_EQ(WaitForFile("app"), "app\n");
   const std::string plain = dir_.Write("plain", "not a program");
   for (const std::string bad : {"", "   ", "true | false", "'unclosed"}) EXPECT_EQ(RunDOS(bad), 0);
   EXPECT_EQ(RunDOS("no-such-program-here"), 2);
   EXPECT_EQ(RunDOS(plain + " arg"), 5);
   ::chmod(plain.c_str(), 0755);
   EXPECT_EQ(RunDOS(plain), 11);
-}
-
-TEST_F(AddonProgramsTest, RunAppStartsTheProgramButFindsNoWindow) {
-  EXPECT_FALSE(RunApp(Writes("echo started", "app").c_str(), "Stock Manager"));
-  EXPECT_EQ(WaitForFile("app"), "started\n");
 }
 
 TEST_F(AddonProgramsTest, CallHookStartsTheAddonForTheUserOrSaysWhyNotInTheUsersLanguage) {
@@ -71,10 +66,7 @@ TEST_F(AddonProgramsTest, CallHookStartsTheAddonForTheUserOrSaysWhyNotInTheUsers
   EXPECT_EQ(CallHookError(), "Cannot run program: stockmgr");
   LangChanger().SetLanguage(0);
   EXPECT_EQ(codepage::Utf8FromWide(codepage::ToWide(CallHookError(), 950)), "無法執行: stockmgr");
-  const std::string args = dir_.File("args");
-  const std::string script =
-      "#!/bin/sh\necho \"$@\" > " + args + ".part && mv " + args + ".part " + args;
-  ::chmod(dir_.Write("stockmgr", script).c_str(), 0755);
+  ::chmod(dir_.Write("stockmgr", "#!/bin/sh\n" + Writes("echo \"$@\"", "args")).c_str(), 0755);
   AddonDone = true;
   LangChanger().SetLanguage(1);
   EXPECT_EQ(CallHookError(), "No response from program: Stock Manager");

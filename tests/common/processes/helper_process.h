@@ -1,12 +1,11 @@
 // A program started through the shell for cross-process tests: the test reads what it prints and
-// knows its process number (printed by the shell before it becomes the program), to signal it.
+// knows its process number (printed by the shell before it becomes the program) to signal it.
 #pragma once
 
 #include <signal.h>
 #include <sys/wait.h>
 
 #include <cstdio>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -15,25 +14,16 @@ namespace mv::test {
 class HelperProcess {
  public:
   explicit HelperProcess(const std::string& commandLine)
-      : out_(::popen(("echo $$; exec " + commandLine).c_str(), "r")) {
-    if (out_ == nullptr) throw std::runtime_error("cannot start " + commandLine);
-    pid_ = std::stoi(ReadLine());
-  }
+      : out_(::popen(("echo $$; exec " + commandLine).c_str(), "r")), pid_(std::stoi(ReadLine())) {}
   ~HelperProcess() {
     if (out_ != nullptr) Signal(SIGKILL), Wait();
   }
   // The next line printed, without its line end; empty at the end of the output.
   std::string ReadLine() {
     char line[4096];
-    std::string text = std::fgets(line, sizeof line, out_) != nullptr ? line : "";
-    if (!text.empty() && text.back() == '\n') text.pop_back();
-    return text;
-  }
-  // Everything printed until the program ends.
-  std::string ReadAll() {
-    std::string text;
-    char chunk[4096];
-    for (size_t n; (n = std::fread(chunk, 1, sizeof chunk, out_)) > 0;) text.append(chunk, n);
+    if (out_ == nullptr || std::fgets(line, sizeof line, out_) == nullptr) return "";
+    std::string text(line);
+    if (text.back() == '\n') text.pop_back();
     return text;
   }
   void Signal(int signal) const { ::kill(pid_, signal); }
@@ -45,7 +35,7 @@ class HelperProcess {
 
  private:
   std::FILE* out_;
-  int pid_ = 0;
+  int pid_;
 };
 
 }  // namespace mv::test
