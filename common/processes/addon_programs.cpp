@@ -43,10 +43,11 @@ processes::TWindowHandle OpenAddonWindow(const std::string& caption, const std::
 }  // namespace
 
 bool RunApp(const char* commandLine, const char* caption) {
-  processes::TWindowHandle window = processes::FindTopLevelWindow(caption);
+  const std::string title = caption != nullptr ? caption : "";
+  processes::TWindowHandle window = processes::FindTopLevelWindow(title);
   if (window == 0) {
-    processes::StartProgram(commandLine, processes::smNormal);
-    window = processes::FindTopLevelWindow(caption);
+    processes::StartProgram(commandLine != nullptr ? commandLine : "", processes::smNormal);
+    window = processes::FindTopLevelWindow(title);
   }
   return processes::CentreAndRaiseWindow(window);
 }

@@ -25,7 +25,8 @@ inline constexpr uint32_t kHookMessage = 2024;
 // with `commandLine` (window shown normally) when no such window is open; an add-on that runs
 // already is not started twice. The window is looked for once more after the start, without
 // waiting, then centred on the screen and brought to the top. Returns the answer of bringing it
-// to the top: false when no window was found. Both texts are narrow, zero-terminated.
+// to the top: false when no window was found. Both texts are narrow, zero-terminated; a null
+// pointer counts as an empty text.
 bool RunApp(const char* commandLine, const char* caption);
 
 // Starts `commandLine` (narrow text) with its window hidden and returns the start result as the

@@ -39,6 +39,8 @@ TWindowHandle WaitForTopLevelWindow(const std::string& caption, std::chrono::sec
     if (window != 0) return window;
     if (::GetTickCount64() - start > limitMs) return 0;
     HandleWaitingMessages();
+    // Sleeps until the next message or for a moment, rather than spinning.
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 50, QS_ALLINPUT);
   }
 }
 
