@@ -2,6 +2,11 @@
 // on several sharing the installation folder), through lock files
 // BasePath + "Temp" + separator + resource + ".lck". A right is held for as long as the holder
 // keeps the file's handle; the file itself stays until DeleteLockFile.
+// POSIX: the right is an open-file-description write lock on the open file (see
+// platform/files/lock_file.h): other machines see it through the network file system's lock
+// service, the system gives it up when its holder dies, and programs the holder starts do not
+// inherit it. It binds only programs that take it the same way; it does not stop a program from
+// opening the file otherwise.
 #pragma once
 
 #include <cstdint>
