@@ -86,6 +86,7 @@ bool FitsFormat(std::basic_string_view<Char> value, std::basic_string_view<Char>
   if (!NotEmpty(value) || value.size() != mask.size()) return false;
   using Code = std::make_unsigned_t<Char>;
   for (size_t i = 0; i < value.size(); ++i) {
+    if (mask[i] == '*') continue;
     if (!FitsMask(static_cast<Code>(upper(value[i])), static_cast<Code>(mask[i]), others))
       return false;
   }
