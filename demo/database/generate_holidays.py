@@ -3,9 +3,10 @@
 holidays of the years below, from Debian's python3-holidays, named as the Hong Kong Government
 publishes them (English, Traditional Chinese, Simplified Chinese).
 
-Run it from any folder after changing YEARS; commit the seed files it writes. The dates were
-checked against the lists of general holidays published at
-https://www.gov.hk/en/about/abouthk/holiday/ for every year below.
+Run it from any folder after changing YEARS; commit the seed files it writes. The dates of 2024
+to 2026 were checked against the lists of general holidays published at
+https://www.gov.hk/en/about/abouthk/holiday/; those of 2027 follow the rules of the General
+Holidays Ordinance (Cap. 149) and were not yet compared with that year's published list.
 """
 import datetime
 import pathlib
