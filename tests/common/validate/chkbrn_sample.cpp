@@ -1,7 +1,7 @@
 // A sample business-registration check library for the tests: it accepts numbers of digits only
-// whose digits add up to a multiple of 7. It appends "loaded", "ChkBRN <number>" and "unloaded"
-// lines to the file named by MV_CHKBRN_LOG. EXPORT_NAME is set by the build, so one source also
-// gives a library without the "ChkBRN" export.
+// whose digits add up to a multiple of 7, and appends "loaded", "ChkBRN <number>" and "unloaded"
+// lines to the file named by MV_CHKBRN_LOG. The build sets EXPORT_NAME, so one source also gives
+// a library without the "ChkBRN" export.
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -11,8 +11,7 @@ namespace {
 
 void Log(const std::string& line) {
   const char* path = std::getenv("MV_CHKBRN_LOG");
-  if (path == nullptr) return;
-  if (FILE* f = std::fopen(path, "a")) {
+  if (FILE* f = path != nullptr ? std::fopen(path, "a") : nullptr) {
     std::fprintf(f, "%s\n", line.c_str());
     std::fclose(f);
   }
