@@ -1,5 +1,6 @@
-// The code list of Chinese characters: parsing, and the list the build generated for the demo
-// installation from ICU's data, against the two code pages it covers.
+// The code list the build generated for the demo installation from ICU's data, against the two
+// code pages it covers. (Hand-made lists with comments, duplicates and bad values are read by
+// syntax_checks_test.cpp.)
 #include "common/validate/chinese_code_list.h"
 
 #include <gtest/gtest.h>
@@ -12,17 +13,6 @@
 
 namespace mv::test {
 namespace {
-
-TEST(CodeList, ParsesNameValueLines) {
-  const TChineseCodeList list = TChineseCodeList::Parse(
-      "\xEF\xBB\xBF"
-      "4e00=C\r\n; comment\n767C=T\n4E8C=TT\n4E0G=C\n4E00=T\n4E03 =C\nFF0C=S");
-  EXPECT_EQ(std::string({list.ClassOf(u'一'), list.ClassOf(u'發'), list.ClassOf(u'，')}), "CTS");
-  EXPECT_EQ(list.ClassOf(u'二'), TChineseCodeList::kOtherValue);
-  EXPECT_EQ(list.ClassOf(u'七'), TChineseCodeList::kNoEntry);
-  EXPECT_EQ(list.Entries(), 4u);
-  EXPECT_TRUE(TChineseCodeList::Parse("; nothing\r\n").Empty());
-}
 
 // Every ideograph of the double-byte codes lead x trail of `codePage`.
 std::u16string Ideographs(int codePage, int leadFirst, int leadLast, int trailFirst) {
