@@ -37,8 +37,9 @@ std::string_view Trimmed(std::string_view text) {
 
 // The whole number written by `text` (optional sign, digits only), or false.
 bool ReadCount(std::string_view text, int32_t& count) {
-  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
-  if (text.empty() || text.front() == '+') return false;
+  const bool plus = !text.empty() && text.front() == '+';
+  if (plus) text.remove_prefix(1);
+  if (text.empty() || text.front() == '+' || (plus && text.front() == '-')) return false;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), count);
   return error == std::errc() && end == text.data() + text.size();
 }

@@ -25,7 +25,7 @@ std::string Ymd(TDateTime date) {
 
 TEST(DateParam, UnreadableTextsAreAllDatesAndLocked) {
   for (const char* text :
-       {"-1D", "", "   ", "X", "abcD", "3X", "3m", "3 M", "++3M", "D3", "99999999999D", "-1W"}) {
+       {"-1D", "", "   ", "X", "abcD", "3X", "3m", "3 M", "+-3M", "D3", "99999999999D", "-1W"}) {
     const TDateParam param = ParseDateParam(text);
     EXPECT_EQ(param.Count, -1) << text;
     EXPECT_TRUE(param.Locked) << text;
