@@ -1,4 +1,5 @@
 // Editing a dataset: the row buffer and the statements that write it to its one table.
+#include "platform/db/connection_qt.h"
 #include "platform/db/dataset.h"
 #include "platform/db/dataset_impl.h"
 #include "platform/db/db_error.h"
@@ -72,8 +73,39 @@ TStatement UpdateStatement(const std::u16string& table, const TMVADODataSet::Imp
     }
   }
   if (sets.empty()) return {};
-  s.Sql = u"UPDATE " + table + u" SET " + sets + (where.empty() ? u"" : u" WHERE " + where);
+  if (where.empty()) {
+    throw EDatabaseError(
+        "Insufficient key column information for updating: the query reads no column that can "
+        "name the row");
+  }
+  s.Sql = u"UPDATE " + table + u" SET " + sets + u" WHERE " + where;
   return s;
+}
+
+// Runs the update `s`, which must change exactly the edited row. Where the connection can, the
+// update runs in a transaction of its own so that an update that would change several rows (the
+// columns read do not tell them apart) is undone; inside the caller's transaction the caller
+// undoes it on the error.
+void RunRowUpdate(const std::string& connection, const TStatement& s, int timeout) {
+  QSqlDatabase database = DatabaseOf(connection);
+  const bool own = database.transaction();
+  int changed = 0;
+  try {
+    changed = RunSql(connection, s.Sql, s.Values, timeout, true).numRowsAffected();
+  } catch (...) {
+    if (own) database.rollback();
+    throw;
+  }
+  if (changed == 1) {
+    if (own) database.commit();
+    return;
+  }
+  if (own) database.rollback();
+  if (changed == 0) {
+    throw EDatabaseError("Row cannot be located for updating: it was changed since it was read");
+  }
+  throw EDatabaseError("Key column information is insufficient: the update would change " +
+                       std::to_string(changed) + " rows");
 }
 
 }  // namespace
@@ -116,12 +148,10 @@ void TMVADODataSet::Post() {
   const std::u16string& table = d.table;
   const TStatement s = d.state == dsInsert ? InsertStatement(table, d)
                                            : UpdateStatement(table, d, d.rows[d.current]);
-  if (!s.Sql.empty()) {
-    const int changed =
-        RunSql(ConnectionName(), s.Sql, s.Values, CommandTimeout(), true).numRowsAffected();
-    if (d.state == dsEdit && changed == 0) {
-      throw EDatabaseError("Row cannot be located for updating: it was changed since it was read");
-    }
+  if (!s.Sql.empty() && d.state == dsEdit) {
+    RunRowUpdate(ConnectionName(), s, CommandTimeout());
+  } else if (!s.Sql.empty()) {
+    RunSql(ConnectionName(), s.Sql, s.Values, CommandTimeout(), true);
   }
   if (d.state == dsEdit) {
     d.rows[d.current] = d.buffer;

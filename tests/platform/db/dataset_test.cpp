@@ -154,6 +154,29 @@ TYPED_TEST(DataSetTest, EditPostWritesOnlyTheEditedRow) {
   EXPECT_EQ(check.Fields(2).AsDateTime().Days, kLunarNewYear + 10);
 }
 
+// A row the columns read cannot tell apart from others is never written: neither through a query
+// that reads only long text nor where other rows hold the same values (NULL here).
+TYPED_TEST(DataSetTest, EditsThatCannotNameOneRowAreRefusedAndChangeNothing) {
+  test::Exec("create table Pref (userid varchar(10), Preference ntext, Notes text)");
+  test::Exec("insert into Pref values ('A', NULL, 'n'), ('B', NULL, 'n')");
+  auto& ds = this->ds_;
+  for (const char* sql : {"select Preference from Pref where userid = 'A'",
+                          "select Notes from Pref where userid = 'A'"}) {
+    ds.SetCommandText(sql);
+    ds.Open();
+    ds.Edit();
+    ds.Fields(0).SetAsString("changed");
+    EXPECT_THROW(ds.Post(), EDatabaseError) << sql;
+    ds.Cancel();
+    ds.Close();
+  }
+  TMVADODataSet check;
+  check.SetCommandText(
+      "select count(*) from Pref where Preference is not null or cast(Notes as varchar(9)) <> 'n'");
+  check.Open();
+  EXPECT_EQ(check.Fields(0).AsInteger(), 0);
+}
+
 TYPED_TEST(DataSetTest, CancelDropsEditsAndInsertAppendsARow) {
   auto& ds = this->ds_;
   this->OpenAll();
