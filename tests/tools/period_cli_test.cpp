@@ -36,7 +36,7 @@ TEST(PeriodCommand, CommandLinesItCannotFollow) {
         {"period", "shift", "1M"},
         {"period", "range", "1M"},
         {"period", "range", "1M", "2023-02-29"},
-        {"period", "range", "1M", "2024-03-31 14:05"},
+        {"period", "range", "1M", "2024-03-31T14"},
         {"period", "sql", "1M", "2024-03-31T24:00"},
         {"period", "describe", "1M", "--lang", "fr"},
         {"period", "sql", "1M", "2024-03-31", "--lang", "en"}}) {

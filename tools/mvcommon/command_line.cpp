@@ -38,7 +38,9 @@ ParsedArgs ParseArgs(std::span<char* const> args, std::span<const std::string_vi
   bool optionsEnded = false;
   for (size_t i = 0; i < args.size(); ++i) {
     std::string_view word = args[i];
-    if (optionsEnded || word.size() < 2 || word[0] != '-') {
+    const bool negativeNumber =
+        word.size() > 1 && word[0] == '-' && word[1] >= '0' && word[1] <= '9';
+    if (optionsEnded || word.size() < 2 || word[0] != '-' || negativeNumber) {
       parsed.positionals.emplace_back(word);
     } else if (word == "--") {
       optionsEnded = true;

@@ -30,7 +30,8 @@ struct ParsedArgs {
 
 // Splits `args` (the words after the subcommand). "--help" and "-h" set `help`; "--name VALUE"
 // and "--name=VALUE" set an option when `name` is one of `valued` (the last one given wins); "--"
-// makes every later word positional, as is every word not starting with "-" (a lone "-" too).
+// makes every later word positional, as is every word not starting with "-", a lone "-" and a
+// word of a dash and a digit (-1, -1D: negative numbers and period presets are never options).
 // Throws UsageError for any other option and for an option without its value.
 ParsedArgs ParseArgs(std::span<char* const> args, std::span<const std::string_view> valued);
 
