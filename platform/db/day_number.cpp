@@ -1,9 +1,9 @@
 #include "platform/db/day_number.h"
 
-#include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <ctime>
+
+#include "platform/system/local_time.h"
 
 namespace mv::db {
 namespace {
@@ -103,14 +103,8 @@ std::optional<double> ParseIsoDate(std::string_view text) {
 }
 
 double NowDayNumber() {
-  const auto now = std::chrono::system_clock::now();
-  const std::time_t t = std::chrono::system_clock::to_time_t(now);
-  std::tm local{};
-  localtime_r(&t, &local);
-  const auto ms =
-      std::chrono::duration_cast<std::chrono::milliseconds>(now.time_since_epoch()).count() % 1000;
-  return DayNumberOf({local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
-                      local.tm_min, local.tm_sec, static_cast<int>(ms)});
+  const sys::TLocalTime t = sys::LocalTimeNow();
+  return DayNumberOf({t.Year, t.Month, t.Day, t.Hour, t.Minute, t.Second, t.Msec});
 }
 
 }  // namespace mv::db
