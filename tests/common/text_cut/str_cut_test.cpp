@@ -10,63 +10,42 @@ namespace {
 
 const std::string kBig5 = "\xB3\xF8\xC3\xF6";  // 報關: two characters, four bytes
 
-TEST(LeftRight, CutBytes) {
-  EXPECT_EQ(Right("ABCDE", 2), "DE");
+// Left and Right cut bytes; StrLeft and StrRight cut characters of the wide carrier.
+TEST(LeftRight, CutBytesOrCarrierCharacters) {
+  EXPECT_EQ(Right(kBig5, 2), "\xC3\xF6");
   EXPECT_EQ(Right("AB", 5), "AB");
-  EXPECT_EQ(Right("AB", 0), "");
   EXPECT_EQ(Right("AB", -3), "");
   EXPECT_EQ(Right("", 2), "");
-  EXPECT_EQ(Left("AB", 0), "");
-  EXPECT_EQ(Left("AB", -1), "");
-  EXPECT_EQ(Left("ABC", 2), "AB");
-  EXPECT_EQ(Left("AB", 5), "AB");
   EXPECT_EQ(Left(kBig5, 2), "\xB3\xF8");
-  EXPECT_EQ(Right(kBig5, 2), "\xC3\xF6");
+  EXPECT_EQ(Left("AB", 0), "");
   EXPECT_EQ(Left(std::string("A\0B", 3), 3), std::string("A\0B", 3));
-}
 
-TEST(StrLeftRight, CutTheCarrierAndKeepItsForm) {
   EXPECT_EQ(StrLeft(u"報關資料", 2), u"報關");
-  EXPECT_EQ(StrRight(u"報關資料", 2), u"資料");
-  EXPECT_EQ(StrRight(u"AB", 5), u"AB");
-  EXPECT_EQ(StrLeft(u"AB", 0), u"");
-  const std::u16string literal = u"x=\x02O'Neil\x02";
+  const std::u16string literal = u"x=\u0002O'Neil\u0002";
   EXPECT_EQ(StrLeft(literal, 100), literal);  // marks kept
-  EXPECT_EQ(StrRight(literal, 8), u"\x02O'Neil\x02");
+  EXPECT_EQ(StrRight(literal, 8), u"\u0002O'Neil\u0002");
   EXPECT_EQ(StrLeft(literal, 4), u"x=O");  // the cut leaves the literal open: its mark goes
   EXPECT_EQ(StrRight(literal, 3), u"il");
 }
 
 TEST(Strip, RemovesMembersOnly) {
   EXPECT_EQ(Strip("A-B C-", MakeCharSet("- ")), "ABC");
-  EXPECT_EQ(Strip("ABC", MakeCharSet("CBA")), "");
-  EXPECT_EQ(Strip("ABC", TCharSet().set()), "");
   EXPECT_EQ(Strip("A\xB3\xF8", TCharSet()), "A\xB3\xF8");
   EXPECT_EQ(Strip("", MakeCharSet("A")), "");
-  EXPECT_EQ(Strip(std::string("A\0\xFF", 3), MakeCharSet(std::string("\0", 1))), "A\xFF");
-  EXPECT_EQ(Strip("A\xFF", MakeCharSet("\xFF")), "A");
+  EXPECT_EQ(Strip(std::string("A\0\xFF", 3), MakeCharSet(std::string("\0\xFF", 2))), "A");
 }
 
 TEST(MovePChar, CutsConsecutiveFields) {
-  const char record[] = "ABCDEF";
+  const char record[] = "ABC\xB3\xF8";  // a three-letter field and one of a Big5 character
   const char* p = record;
   std::string field = "previous content";
   MovePChar(3, p, field);
   EXPECT_EQ(field, "ABC");
-  EXPECT_EQ(p, record + 3);
-  MovePChar(3, p, field);
-  EXPECT_EQ(field, "DEF");
-  MovePChar(0, p, field);
-  EXPECT_EQ(field, "");
-  EXPECT_EQ(p, record + 6);
-
-  const std::string big5 = kBig5 + "12";  // 報關 and a two-digit field
-  p = big5.data();
   MovePChar(2, p, field);
   EXPECT_EQ(field, "\xB3\xF8");
-  MovePChar(2, p, field);
-  EXPECT_EQ(field, "\xC3\xF6");
-  EXPECT_EQ(p, big5.data() + 4);
+  MovePChar(0, p, field);
+  EXPECT_EQ(field, "");
+  EXPECT_EQ(p, record + 5);
 
   const char padded[] = {'A', '\0', 'Z', 'Q'};  // a text shorter than the field
   p = padded;
