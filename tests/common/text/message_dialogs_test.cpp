@@ -3,8 +3,6 @@
 #include "common/frame/errors.h"
 #include "common/text/lang_changer.h"
 #include "common/text/message_dialogs.h"
-#include "common/text/str_utils.h"
-#include "platform/codepage/codepage.h"
 #include "tests/common/text/text_fixture.h"
 
 namespace mv::test {
@@ -47,10 +45,6 @@ TEST_F(MessageDialogsTest, DialogsAreMadeUnshownAndMsgFormScalesToTheScreen) {
   EXPECT_EQ(form.ScaleDenominator(), 96);
   EXPECT_EQ(form.ShowModal(), mbOK);
   EXPECT_EQ(dialogs_.Requests().size(), 1u);
-
-  dialogs_.SetScreenDpi(96);
-  auto same = MsgForm("c", "t", mtWarning, {mbOK});
-  EXPECT_EQ(dynamic_cast<TProviderMsgDialog&>(*same).ScaleNumerator(), 1);
 }
 
 TEST_F(MessageDialogsTest, InputQueryKeepsNarrowFieldsInTheCodePage) {
@@ -82,9 +76,7 @@ TEST_F(MessageDialogsTest, ConfirmDeleteAsksWithTextsAndAbortsQuietlyWhenRefused
   EXPECT_NO_THROW(ConfirmDelete("SALES invoice"));
   ASSERT_EQ(dialogs_.Requests().size(), 1u);
   EXPECT_EQ(dialogs_.Requests()[0].caption, u"Delete SALES invoice");
-  EXPECT_EQ(dialogs_.Requests()[0].text,
-            u"Are you sure you want to delete this " +
-                codepage::ToWide(ChangeCase("SALES invoice"), codepage::UserCodePage()) + u"?");
+  EXPECT_EQ(dialogs_.Requests()[0].text, u"Are you sure you want to delete this Sales Invoice?");
   dialogs_.QueueAnswer(mbNo);
   EXPECT_THROW(ConfirmDelete("SALES invoice"), EAbort);
 }

@@ -30,12 +30,9 @@ class TextFixture : public ::testing::Test {
   dialogs::ScopedProvider provider_{dialogs_};
 };
 
-// The Big5 / GBK bytes of a UTF-8 text.
+// The Big5 bytes of a UTF-8 text.
 inline std::string Big5(std::string_view utf8) {
   return codepage::FromWide(codepage::WideFromUtf8(utf8), codepage::kBig5);
-}
-inline std::string Gbk(std::string_view utf8) {
-  return codepage::FromWide(codepage::WideFromUtf8(utf8), codepage::kGbk);
 }
 
 }  // namespace mv::test
