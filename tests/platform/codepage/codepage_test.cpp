@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "platform/codepage/codepage.h"
 #include "platform/codepage/simplified.h"
@@ -14,51 +15,41 @@ bool IsOneCodePoint(const std::u16string& w) {
   return w.size() == 2 && w[0] >= 0xD800 && w[0] <= 0xDBFF && w[1] >= 0xDC00 && w[1] <= 0xDFFF;
 }
 
-struct Repertoire {
-  std::string canonical;  // every pair that comes back as itself, one after the other
-  int mapped = 0;
-  int privateUse = 0;
-  int duplicates = 0;  // second encodings of a character: they come back as its first encoding
-};
-
-// Converts every lead/trail pair of a double-byte code page to wide text and back.
-Repertoire RoundTripEveryPair(int codePage) {
-  Repertoire r;
+// Converts every lead/trail pair of a double-byte code page to wide text and back, then all the
+// pairs that came back as themselves in one string. Returns the characters mapped and how many
+// of them are private-use code points.
+std::pair<int, int> RoundTripEveryPair(int codePage) {
+  std::string canonical;
+  int mapped = 0, privateUse = 0, duplicates = 0;
   for (int lead = 0x81; lead <= 0xFE; ++lead) {
     for (int trail = 0x40; trail <= 0xFE; ++trail) {
       const std::string pair{static_cast<char>(lead), static_cast<char>(trail)};
       const std::u16string wide = ToWide(pair, codePage);
       if (!IsOneCodePoint(wide)) continue;
-      ++r.mapped;
-      if (wide[0] >= 0xE000 && wide[0] <= 0xF8FF) ++r.privateUse;
+      ++mapped;
+      if (wide[0] >= 0xE000 && wide[0] <= 0xF8FF) ++privateUse;
       const std::string back = FromWide(wide, codePage);
       if (back == pair) {
-        r.canonical += pair;
+        canonical += pair;
         continue;
       }
-      ++r.duplicates;
-      EXPECT_EQ(back.size(), 2u) << std::hex << lead << trail;
+      // A second encoding of a character comes back as its first encoding.
+      ++duplicates;
       EXPECT_EQ(ToWide(back, codePage), wide) << std::hex << lead << trail;
     }
   }
-  return r;
+  EXPECT_LE(duplicates, 16);  // a few box-drawing and numeral characters have two encodings
+  EXPECT_EQ(FromWide(ToWide(canonical, codePage), codePage), canonical);
+  return {mapped, privateUse};
 }
 
-TEST(CodePageRoundTrip, EveryBig5AndUserDefinedCharacterOfCodePage950) {
-  const Repertoire r = RoundTripEveryPair(kBig5);
+TEST(CodePageRoundTrip, EveryCharacterOfBig5AndGbk) {
   // Big5 proper (13,000-odd characters and symbols) and the user-defined area, where Hong Kong
   // installations keep their HKSCS characters as private-use code points.
-  EXPECT_GT(r.mapped - r.privateUse, 13000);
-  EXPECT_GT(r.privateUse, 6000);
-  EXPECT_LE(r.duplicates, 16);  // a few box-drawing and numeral characters have two encodings
-  EXPECT_EQ(FromWide(ToWide(r.canonical, kBig5), kBig5), r.canonical);
-}
-
-TEST(CodePageRoundTrip, EveryGbkCharacterOfCodePage936) {
-  const Repertoire r = RoundTripEveryPair(kGbk);
-  EXPECT_GT(r.mapped, 21000);
-  EXPECT_LE(r.duplicates, 16);
-  EXPECT_EQ(FromWide(ToWide(r.canonical, kGbk), kGbk), r.canonical);
+  const auto [big5, privateUse] = RoundTripEveryPair(kBig5);
+  EXPECT_GT(big5 - privateUse, 13000);
+  EXPECT_GT(privateUse, 6000);
+  EXPECT_GT(RoundTripEveryPair(kGbk).first, 21000);
 }
 
 TEST(CodePageConversion, BadInputAndUnknownCodePages) {
@@ -77,13 +68,10 @@ TEST(CodePageConversion, BadInputAndUnknownCodePages) {
 TEST(CodePageConversion, MappableOnlyWithoutSubstitution) {
   EXPECT_TRUE(IsMappable(u"報關資料 ABC ?", kBig5));
   EXPECT_TRUE(IsMappable(u"", kBig5));
-  EXPECT_FALSE(IsMappable(u"報關\U0001F600", kBig5));
   EXPECT_FALSE(IsMappable(u"报关", kBig5));  // Simplified forms are not in Big5
   EXPECT_TRUE(IsMappable(u"报关", kGbk));
-  EXPECT_TRUE(IsMappable(u"\U0001F600", kUtf8));
   EXPECT_FALSE(IsMappable(u"A\xDC00", kUtf8));
   EXPECT_FALSE(IsMappable(std::u16string(5000, u'A') + u"\U0001F600", kWestern));
-  EXPECT_TRUE(IsMappable(u"Café", kWestern));
   EXPECT_FALSE(IsMappable(u"A\uFE00", kBig5));  // a variation selector would be dropped
   EXPECT_EQ(FromWide(u"A\uFE00", kBig5), "A");
 }
@@ -92,26 +80,16 @@ TEST(CodePageConversion, UserCodePageFollowsTheEnvironment) {
   test::ScopedEnv all("LC_ALL", "");
   test::ScopedEnv ctype("LC_CTYPE", "");
   test::ScopedEnv lang("LANG", "C");
-  test::ScopedEnv override("MV_CODEPAGE", "950");
-  EXPECT_EQ(UserCodePage(), kBig5);
-  EXPECT_EQ(SystemCodePage(), kBig5);
-  {
-    test::ScopedEnv gbk("MV_CODEPAGE", "936");
-    EXPECT_EQ(UserCodePage(), kGbk);
-  }
-  EXPECT_EQ(UserCodePage(), kBig5);
   test::ScopedEnv none("MV_CODEPAGE", "");
   EXPECT_EQ(UserCodePage(), kWestern);
-  {
-    test::ScopedEnv utf8("LANG", "C.UTF-8");  // the C library always has this one
-    EXPECT_EQ(UserCodePage(), kUtf8);
-  }
-  EXPECT_EQ(UserCodePage(), kWestern);
+  test::ScopedEnv utf8("LANG", "C.UTF-8");  // the C library always has this one
+  EXPECT_EQ(UserCodePage(), kUtf8);
+  test::ScopedEnv override("MV_CODEPAGE", "950");  // wins over the locale
+  EXPECT_EQ(UserCodePage(), kBig5);
+  EXPECT_EQ(SystemCodePage(), kBig5);
 }
 
 TEST(Simplified, TraditionalWordsBecomeSimplified) {
-  EXPECT_EQ(ToSimplified(u"報關"), u"报关");
-  EXPECT_EQ(ToSimplified(u"資料"), u"资料");
   EXPECT_EQ(ToSimplified(u"臺灣 發票 ABC 123"), u"台湾 发票 ABC 123");
   EXPECT_EQ(ToSimplified(u""), u"");
   // Big5 bytes of 報關資料 -> GBK bytes of 报关资料; a byte Big5 does not map becomes "?".

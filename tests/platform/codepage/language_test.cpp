@@ -7,19 +7,11 @@ namespace mv::codepage {
 namespace {
 
 TEST(Language, OfLocaleNames) {
-  LanguageInfo zh = LanguageOfLocale("zh_TW.Big5");
+  const LanguageInfo zh = LanguageOfLocale("zh_TW.Big5");
   EXPECT_EQ(zh.id, 0x0404);
   EXPECT_EQ(zh.name, u"Chinese (Traditional, Taiwan)");
   EXPECT_EQ(zh.tag, "zh-TW");
-  LanguageInfo cn = LanguageOfLocale("zh_CN.GBK");
-  EXPECT_EQ(cn.id, 0x0804);
-  EXPECT_EQ(cn.name, u"Chinese (Simplified, China)");
   EXPECT_EQ(LanguageOfLocale("zh_HK.UTF-8@stroke").id, 0x0C04);
-  LanguageInfo en = LanguageOfLocale("en_US.UTF-8");
-  EXPECT_EQ(en.id, 0x0409);
-  EXPECT_EQ(en.name, u"English (United States)");
-  EXPECT_EQ(en.tag, "en-US");
-  EXPECT_EQ(LanguageOfLocale("de_DE.UTF-8@euro").id, 0x0407);
   EXPECT_EQ(LanguageOfLocale("en").id, 0x0409);  // a bare language takes its likely region
   for (const char* english : {"C", "POSIX", "C.UTF-8", "", "xx_YY", "@", "."}) {
     EXPECT_EQ(LanguageOfLocale(english).tag, "en-US") << english;
@@ -30,21 +22,18 @@ TEST(Language, UserAndSystemFromTheEnvironment) {
   test::ScopedEnv all("LC_ALL", "");
   test::ScopedEnv messages("LC_MESSAGES", "");
   test::ScopedEnv ctype("LC_CTYPE", "");
+  test::ScopedEnv none("LANG", "");
+  EXPECT_EQ(UserLanguage().tag, "en-US");
   test::ScopedEnv lang("LANG", "zh_TW.UTF-8");
   EXPECT_EQ(UserLanguage().id, 0x0404);
   EXPECT_EQ(SystemLanguage().id, 0x0404);
-  {
-    test::ScopedEnv userMessages("LC_MESSAGES", "en_US.UTF-8");
-    test::ScopedEnv systemCtype("LC_CTYPE", "zh_CN.GBK");
-    EXPECT_EQ(UserLanguage().id, 0x0409);
-    EXPECT_EQ(SystemLanguage().id, 0x0804);
-    test::ScopedEnv overrides("LC_ALL", "zh_HK.Big5-HKSCS");
-    EXPECT_EQ(UserLanguage().id, 0x0C04);
-    EXPECT_EQ(SystemLanguage().id, 0x0C04);
-  }
-  test::ScopedEnv none("LANG", "");
+  test::ScopedEnv userMessages("LC_MESSAGES", "en_US.UTF-8");
+  test::ScopedEnv systemCtype("LC_CTYPE", "zh_CN.GBK");
   EXPECT_EQ(UserLanguage().id, 0x0409);
-  EXPECT_EQ(SystemLanguage().tag, "en-US");
+  EXPECT_EQ(SystemLanguage().id, 0x0804);
+  test::ScopedEnv overrides("LC_ALL", "zh_HK.Big5-HKSCS");
+  EXPECT_EQ(UserLanguage().id, 0x0C04);
+  EXPECT_EQ(SystemLanguage().id, 0x0C04);
 }
 
 }  // namespace
