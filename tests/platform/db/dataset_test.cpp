@@ -13,25 +13,24 @@ constexpr double kLunarNewYear = 45331.75;  // 2024-02-09 18:00
 template <typename Backend>
 class DataSetTest : public testing::Test {
  protected:
+  // Three messages, written through one command whose parameters take new values each time.
   DataSetTest() {
     test::Exec(
         "create table Msg (RefNo varchar(20), Subject nvarchar(50), Amount float, Qty int, "
         "SentAt datetime, Flag char(1))");
-    AddRow("R1", u"Invoice", 10.5, 1, kLunarNewYear);
-    AddRow("R2", u"發票 台北", 20, 2, kLunarNewYear + 1);
-    AddRow("R3", u"Packing list", 30, 3, kLunarNewYear + 2);
-  }
-  static void AddRow(const char* ref, const char16_t* subject, double amount, int qty,
-                     double sent) {
     TMVADOCommand c;
     c.SetCommandText(
         "insert into Msg (RefNo, Subject, Amount, Qty, SentAt) values (:r, :s, :a, :q, :d)");
-    c.Parameters()[0].Value = ref;
-    c.SetUnicodeParamValue(1, subject, false);
-    c.Parameters()[2].Value = amount;
-    c.Parameters()[3].Value = qty;
-    c.Parameters()[4].Value = TDateTime{sent};
-    EXPECT_EQ(c.Execute(), 1);
+    const std::pair<const char*, const char16_t*> rows[] = {
+        {"R1", u"Invoice"}, {"R2", u"發票 台北"}, {"R3", u"Packing list"}};
+    for (int i = 0; i < 3; ++i) {
+      c.Parameters()[0].Value = rows[i].first;
+      c.SetUnicodeParamValue(1, rows[i].second, false);
+      c.Parameters()[2].Value = 10.5 * (i + 1);
+      c.Parameters()[3].Value = i + 1;
+      c.Parameters()[4].Value = TDateTime{kLunarNewYear + i};
+      EXPECT_EQ(c.Execute(), 1);
+    }
   }
   void OpenAll(TCursorLocation location = clUseClient) {
     ds_.SetCursorLocation(location);
@@ -110,7 +109,6 @@ TYPED_TEST(DataSetTest, FieldsKeepTheirSettingsAndMoveAcrossRefresh) {
   EXPECT_EQ(ds.FieldByName("Amount").DataType(), ftFloat);
   EXPECT_EQ(ds.FieldByName("Subject").DataType(), ftWideString);
   EXPECT_EQ(ds.FieldByName("Flag").DataType(), ftFixedChar);
-  EXPECT_EQ(ds.FieldByName("SentAt").DataType(), ftDateTime);
   ds.FieldByName("Qty").SetIndex(0);
   ds.FieldByName("Subject").SetDisplayLabel("主旨");
   ds.FieldByName("Flag").SetVisible(false);
@@ -128,16 +126,18 @@ TYPED_TEST(DataSetTest, FieldsKeepTheirSettingsAndMoveAcrossRefresh) {
   EXPECT_EQ(ds.Fields(0).FieldName(), "Qty");
   EXPECT_EQ(ds.Fields(5).FieldName(), "Amount");
   EXPECT_EQ(ds.FieldByName("Subject").DisplayLabel(), "主旨");
-  EXPECT_EQ(ds.FieldByName("RefNo").DisplayLabel(), "RefNo");
   EXPECT_FALSE(ds.FieldByName("Flag").Visible());
   EXPECT_EQ(ds.Fields(6).FieldName(), "Double");
-  ds.SetAfterOpen(nullptr);
-  EXPECT_FALSE(ds.AfterOpen());
 }
 
-TYPED_TEST(DataSetTest, EditPostWritesOnlyTheEditedRow) {
+TYPED_TEST(DataSetTest, CancelDropsEditsAndPostWritesOnlyTheEditedRow) {
   auto& ds = this->ds_;
   this->OpenAll();
+  ds.Edit();
+  ds.FieldByName("RefNo").SetAsString("XX");
+  ds.Cancel();
+  EXPECT_EQ(ds.FieldByName("RefNo").AsString(), "R1");
+  EXPECT_THROW(ds.FieldByName("RefNo").SetAsString("YY"), EDatabaseError);  // not editing
   ds.Next();
   ds.Edit();
   EXPECT_EQ(ds.State(), dsEdit);
@@ -177,14 +177,9 @@ TYPED_TEST(DataSetTest, EditsThatCannotNameOneRowAreRefusedAndChangeNothing) {
   EXPECT_EQ(check.Fields(0).AsInteger(), 0);
 }
 
-TYPED_TEST(DataSetTest, CancelDropsEditsAndInsertAppendsARow) {
+TYPED_TEST(DataSetTest, AppendPostsANewRow) {
   auto& ds = this->ds_;
   this->OpenAll();
-  ds.Edit();
-  ds.FieldByName("RefNo").SetAsString("XX");
-  ds.Cancel();
-  EXPECT_EQ(ds.FieldByName("RefNo").AsString(), "R1");
-  EXPECT_THROW(ds.FieldByName("RefNo").SetAsString("YY"), EDatabaseError);
   ds.Append();
   EXPECT_EQ(ds.State(), dsInsert);
   EXPECT_TRUE(ds.FieldByName("RefNo").IsNull());

@@ -8,18 +8,6 @@ namespace {
 constexpr const char* kOdbcDriver = "/usr/lib/x86_64-linux-gnu/odbc/libsqlite3odbc.so";
 }
 
-int Exec(const std::string& sql) {
-  db::TMVADOCommand command;
-  command.SetCommandText(sql);
-  return command.Execute();
-}
-
-int Exec(const std::u16string& sql) {
-  db::TMVADOCommand command;
-  command.SetCommandText(sql);
-  return command.Execute();
-}
-
 SqliteBackend::SqliteBackend(const TempDir& dir) {
   db::OpenConnection("DBMAIN", "sqlite:" + dir.File("main.db"));
 }

@@ -11,21 +11,23 @@
 namespace mv::test {
 
 // Runs `sql` on DBMAIN and returns the rows it changed.
-int Exec(const std::string& sql);
-int Exec(const std::u16string& sql);
+template <typename Text>
+int Exec(const Text& sql) {
+  db::TMVADOCommand command;
+  command.SetCommandText(sql);
+  return command.Execute();
+}
 
 class SqliteBackend {
  public:
   explicit SqliteBackend(const TempDir& dir);
   ~SqliteBackend();
-  static constexpr bool kOdbc = false;
 };
 
 class OdbcBackend {
  public:
   explicit OdbcBackend(const TempDir& dir);
   ~OdbcBackend();
-  static constexpr bool kOdbc = true;
 
  private:
   std::unique_ptr<ScopedEnv> sysIni_, userIni_;
