@@ -19,11 +19,6 @@ QPushButton* Button(QWidget& dialog, const char* name) {
   return dialog.findChild<QPushButton*>(QString::fromLatin1(name));
 }
 
-void PressWhenShown(const char* name) {
-  test::WhenModal(
-      [name](QWidget& modal) { QTest::mouseClick(Button(modal, name), Qt::LeftButton); });
-}
-
 void KeyWhenShown(Qt::Key key) {
   test::WhenModal([key](QWidget& modal) { QTest::keyClick(&modal, key); });
 }
@@ -47,18 +42,14 @@ TEST_F(QtDialogProviderTest, CreateBuildsTheBoxInTheHostLanguageOfThatMoment) {
   EXPECT_EQ(BoxOf(*chinese).windowTitle(), QStringLiteral("匯入"));
   EXPECT_EQ(Button(BoxOf(*english), "mbNoToAll")->text(), QStringLiteral("No to All"));
   EXPECT_EQ(Button(BoxOf(*chinese), "mbNoToAll")->text(), QStringLiteral("全部否"));
-  EXPECT_EQ(Button(BoxOf(*chinese), "mbHelp")->text(), QStringLiteral("說明"));
   EXPECT_EQ(BoxOf(*chinese).buttons().size(), 3);
 }
 
-TEST_F(QtDialogProviderTest, ShowReturnsThePressedButton) {
-  PressWhenShown("mbNo");
-  EXPECT_EQ(provider_.Show({mtConfirmation, u"c", u"Save?", {mbYes, mbNo, mbCancel}, mbYes}), mbNo);
-  PressWhenShown("mbHelp");
+TEST_F(QtDialogProviderTest, ShowAnswersThePressedButtonTheFocusedDefaultOrTheCancellingOne) {
+  // A help button closes the box and answers like any other.
+  test::WhenModal(
+      [](QWidget& modal) { QTest::mouseClick(Button(modal, "mbHelp"), Qt::LeftButton); });
   EXPECT_EQ(provider_.Show({mtWarning, u"c", u"t", {mbOK, mbHelp}, mbOK}), mbHelp);
-}
-
-TEST_F(QtDialogProviderTest, ReturnAnswersTheFocusedDefaultAndEscapeTheCancellingButton) {
   test::WhenModal([](QWidget& modal) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&modal));
     EXPECT_EQ(QApplication::focusWidget(), Button(modal, "mbNo"));
@@ -101,7 +92,7 @@ TEST_F(QtDialogProviderTest, ScaleByEnlargesFontAndSizeAndShowModalRunsAgain) {
   EXPECT_EQ(scaled->ShowModal(), mbCancel);
 }
 
-TEST_F(QtDialogProviderTest, InputQueryLimitsLengthAndReturnsTypedText) {
+TEST_F(QtDialogProviderTest, InputQueryLimitsTypedTextAndCancelLeavesTheValue) {
   InputQueryRequest request{u"Log in", u"User name:", u"old", 5};
   test::WhenModal([](QWidget& modal) {
     auto* edit = modal.findChild<QLineEdit*>(QStringLiteral("InputQueryEdit"));
@@ -115,11 +106,9 @@ TEST_F(QtDialogProviderTest, InputQueryLimitsLengthAndReturnsTypedText) {
   });
   EXPECT_TRUE(provider_.InputQuery(request));
   EXPECT_EQ(request.value, u"陳abcd");
-}
-
-TEST_F(QtDialogProviderTest, InputQueryCancelLeavesTheValue) {
+  // Cancelled, in Chinese: the value stays, even one longer than the limit.
   english_ = false;
-  InputQueryRequest request{u"c", u"p", u"a value longer than the limit", 3};
+  request = {u"c", u"p", u"a value longer than the limit", 3};
   test::WhenModal([](QWidget& modal) {
     EXPECT_EQ(Button(modal, "mbOK")->text(), QStringLiteral("確定"));
     QTest::keyClicks(modal.findChild<QLineEdit*>(QStringLiteral("InputQueryEdit")), "xyz");
@@ -143,7 +132,6 @@ TEST_F(QtDialogProviderTest, ScreenCursorIsTheApplicationsOverrideCursor) {
   // Back to the default leaves no override behind, however many changes came before.
   provider_.SetScreenCursor(crDefault);
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-  EXPECT_EQ(provider_.ScreenCursor(), crDefault);
 }
 
 }  // namespace
