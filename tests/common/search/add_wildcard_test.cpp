@@ -1,5 +1,6 @@
-// Conditions attached to a query's text with the user's words as parameters; the query is not
-// opened here (see the database test for that).
+// Condition texts: exact-match conditions, quote and colon doubling, joined conditions with
+// marked literals; and conditions attached to a query's text with the user's words as parameters.
+// The query is not opened here (see the database test for that).
 #include "common/search/add_wildcard.h"
 
 #include <gtest/gtest.h>
@@ -7,6 +8,7 @@
 #include "common/search/param_list.h"
 #include "common/search/query_text.h"
 #include "platform/db/command.h"
+#include "tests/support/temp_dir.h"
 
 namespace mv::test {
 namespace {
@@ -15,36 +17,57 @@ using db::ftInteger;
 using db::ftWideString;
 using db::Variant;
 
+TEST(StrSQLCond, ExactMatchForms) {
+  ScopedEnv codePage("MV_CODEPAGE", "950");
+  EXPECT_EQ(StrSQLCond("MsgRef", u""), "((MsgRef = '') or (MsgRef IS NULL))");
+  EXPECT_EQ(StrSQLCond("MsgRef", u"O'N*?"), "(MsgRef = 'O''N*?')");
+  EXPECT_EQ(StrSQLCond("MsgRef", u"A!_[B%"), "(MsgRef like 'A!!!_![B!%' Escape '!')");
+  EXPECT_EQ(StrSQLCond("m.Ref", u"\"a:b\":c"), "(m.Ref = '\"a::b\":c')");
+  EXPECT_EQ(StrSQLCond("F", u"\u5317_"), "(F like '\xA5\x5F!_' Escape '!')");  // Big5 of the user
+}
+
+TEST(RepeatColonAfterOddDBQuote, OnlyColonsInsideDoubleQuotes) {
+  EXPECT_EQ(RepeatColonAfterOddDBQuote(u"a:b"), u"a:b");
+  EXPECT_EQ(RepeatColonAfterOddDBQuote(u"\"ab\""), u"\"ab\"");
+  EXPECT_EQ(RepeatColonAfterOddDBQuote(u":\"a:b\":\"::"), u":\"a::b\":\"::::");
+}
+
+TEST(CheckQuot, DoublesEveryQuote) {
+  EXPECT_EQ(CheckQuot(u"'a''b'"), u"''a''''b''");
+  EXPECT_EQ(CheckQuot(std::string("O'NEIL")), "O''NEIL");
+  EXPECT_EQ(CheckQuot(std::string("")), "");
+}
+
+TEST(AddWildCard, JoinedTextKeepsMarks) {
+  EXPECT_EQ(AddWildCard("MsgRef", u"", "and"), u"");
+  EXPECT_EQ(AddWildCard("MsgRef", u"O'N*", "and"), u" and (MsgRef like \x02O'N%\x02)");
+  EXPECT_EQ(AddWildCard("MsgRef", u"A..M", "or"),
+            u" or ((MsgRef >= \x02"
+            u"A\x02) and (MsgRef <= \x02M\x02))");
+}
+
+// Literals become parameters numbered on from the list. Only a literal closed right after
+// "escape" outside literals stays inline, which in practice means an empty one.
 TEST(GetWildCard, LiteralsBecomeNumberedParameters) {
   TParamList list;
   EXPECT_EQ(GetWildCard(u"(MsgRef like \x02"
-                        u"AB%\x02)",
-                        true, list),
-            u"(MsgRef like :pTmp1)");
-  EXPECT_EQ(GetWildCard(u"(MsgRef like \x02"
                         u"50!%\x02 Escape '!')",
                         true, list),
-            u"(MsgRef like :pTmp2 Escape '!')");
+            u"(MsgRef like :pTmp1 Escape '!')");
   EXPECT_EQ(GetWildCard(u"((F >= 'A') and (F <= ''))", false, list),
-            u"((F >= :pTmp3) and (F <= :pTmp4))");
+            u"((F >= :pTmp2) and (F <= :pTmp3))");
+  EXPECT_EQ(GetWildCard(u"(F like \x02x\x02 ESCAPE \x02\x02)", true, list),
+            u"(F like :pTmp4 ESCAPE '')");
+  EXPECT_EQ(GetWildCard(u"no literal", true, list), u"no literal");
   ASSERT_EQ(list.size(), 4u);
-  EXPECT_EQ(list[0].Value, Variant(u"AB%"));
-  EXPECT_EQ(list[1].Value, Variant(u"50!%"));
-  EXPECT_EQ(list[3].Value, Variant(u""));
+  EXPECT_EQ(list[0].Value, Variant(u"50!%"));
+  EXPECT_EQ(list[1].Value, Variant(u"A"));
+  EXPECT_EQ(list[2].Value, Variant(u""));
+  EXPECT_EQ(list[3].Value, Variant(u"x"));
   for (const TParamEntry& entry : list) {
     EXPECT_EQ(entry.DataType, ftWideString);
     EXPECT_FALSE(entry.Existing);
   }
-}
-
-// Only a literal closed right after "escape" outside literals stays inline, which in practice
-// means an empty one.
-TEST(GetWildCard, EmptyLiteralAfterEscapeStaysInline) {
-  TParamList list;
-  EXPECT_EQ(GetWildCard(u"(F like \x02x\x02 ESCAPE \x02\x02)", true, list),
-            u"(F like :pTmp1 ESCAPE '')");
-  EXPECT_EQ(list.size(), 1u);
-  EXPECT_EQ(GetWildCard(u"no literal", true, list), u"no literal");
 }
 
 struct QueryWithTwoParameters : ::testing::Test {
@@ -53,7 +76,7 @@ struct QueryWithTwoParameters : ::testing::Test {
     query.SetCommandText(u"select * from Inbox where Kind = :kind and Owner = :owner");
     query.Parameters()[0].DataType = ftInteger;
     query.Parameters()[0].Value = Variant(7);
-    query.SetUnicodeParamValue(1, u"王", false);
+    query.SetUnicodeParamValue(1, u"\x02王\x02", false);
   }
 };
 
@@ -65,9 +88,8 @@ TEST_F(QueryWithTwoParameters, NewParametersFollowTheOldOnes) {
   ASSERT_EQ(query.Parameters().Count(), 4);
   EXPECT_EQ(query.Parameters()[0].DataType, ftInteger);
   EXPECT_EQ(query.Parameters()[0].Value, Variant(7));
-  EXPECT_EQ(query.Parameters()[1].Value, Variant(u"王"));
+  EXPECT_EQ(query.Parameters()[1].Value, Variant(u"\x02王\x02"));  // kept, marks and all
   EXPECT_EQ(query.Parameters()[2].Value, Variant(u"A"));
-  EXPECT_EQ(query.Parameters()[3].DataType, ftWideString);
   EXPECT_EQ(query.Parameters()[3].Value, Variant(u"M"));
 }
 
@@ -99,15 +121,6 @@ TEST(AddWildCard, ConnectingWords) {
   }
 }
 
-TEST(AddWildCard, MatchAllFindsNull) {
-  db::TMVADOCommand query;
-  query.SetCommandText(u"select * from Inbox");
-  AddWildCard(query, "MsgRef", u"*", true, false, "");
-  EXPECT_EQ(query.CommandText(),
-            u"select * from Inbox Where ((MsgRef like :pTmp1) or (MsgRef IS NULL))");
-  EXPECT_EQ(query.Parameters()[0].Value, Variant(u"%"));
-}
-
 TEST(AddWildCard, ArraysAndReadyConditions) {
   db::TMVADOCommand query;
   query.SetCommandText(u"S where 1=1");
@@ -131,25 +144,16 @@ TEST(AddWildCard, ArraysAndReadyConditions) {
   EXPECT_EQ(query.Parameters()[3].Value, Variant(u"z"));
 }
 
-TEST(SetParamListValue, RestoresTypesAndEmptiesTheList) {
+// A value of a new parameter comes as a carrier; its marks are taken off.
+TEST(SetParamListValue, NewValuesLeaveTheCarrierAndTheListEmpties) {
   db::TMVADOCommand query;
-  query.SetCommandText(u":a :b :c");
-  TParamList list{{ftInteger, true, Variant(3)},
-                  {ftWideString, true, Variant(u"\x02keep\x02")},
-                  {ftWideString, false,
+  query.SetCommandText(u"T = :a");
+  TParamList list{{ftWideString, false,
                    Variant(u"\x02"
                            u"carrier\x02")}};
   SetParamListValue(query, list);
   EXPECT_TRUE(list.empty());
-  EXPECT_EQ(query.Parameters()[0].DataType, ftInteger);
-  EXPECT_EQ(query.Parameters()[0].Value, Variant(3));
-  EXPECT_EQ(query.Parameters()[1].Value, Variant(u"\x02keep\x02"));
-  EXPECT_EQ(query.Parameters()[2].Value, Variant(u"carrier"));
-  TParamList back;
-  GetParamListValue(query.Parameters(), back);
-  ASSERT_EQ(back.size(), 3u);
-  EXPECT_TRUE(back[2].Existing);
-  EXPECT_EQ(back[2].DataType, ftWideString);
+  EXPECT_EQ(query.Parameters()[0].Value, Variant(u"carrier"));
 }
 
 }  // namespace

@@ -7,16 +7,15 @@
 #include <algorithm>
 #include <optional>
 #include <random>
+#include <ranges>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "common/search/add_wildcard.h"
 #include "platform/codepage/codepage.h"
-#include "platform/db/command.h"
-#include "platform/db/connections.h"
 #include "platform/db/dataset.h"
-#include "tests/support/temp_dir.h"
+#include "tests/platform/db/db_fixture.h"
 
 namespace mv::test {
 namespace {
@@ -31,18 +30,12 @@ char16_t Folded(char16_t c) {
 
 // "*" any run, "?" one character, everything else itself, ASCII letters in either case.
 bool GlobMatches(std::u16string_view glob, std::u16string_view text) {
-  std::vector<std::vector<bool>> can(glob.size() + 1, std::vector<bool>(text.size() + 1));
-  can[glob.size()][text.size()] = true;
-  for (size_t g = glob.size(); g-- > 0;) {
-    for (size_t t = text.size() + 1; t-- > 0;) {
-      if (glob[g] == u'*') {
-        can[g][t] = can[g + 1][t] || (t < text.size() && can[g][t + 1]);
-      } else if (t < text.size() && (glob[g] == u'?' || Folded(glob[g]) == Folded(text[t]))) {
-        can[g][t] = can[g + 1][t + 1];
-      }
-    }
-  }
-  return can[0][0];
+  if (glob.empty()) return text.empty();
+  if (glob[0] == u'*')
+    return GlobMatches(glob.substr(1), text) ||
+           (!text.empty() && GlobMatches(glob, text.substr(1)));
+  return !text.empty() && (glob[0] == u'?' || Folded(glob[0]) == Folded(text[0])) &&
+         GlobMatches(glob.substr(1), text.substr(1));
 }
 
 // The code point order SQLite compares text in (its UTF-8 bytes).
@@ -50,58 +43,45 @@ int Compare(std::u16string_view a, std::u16string_view b) {
   return codepage::Utf8FromWide(a).compare(codepage::Utf8FromWide(b));
 }
 
-struct TTermTest {
-  enum { kEqual, kGlob, kRange } kind;
-  std::u16string text, low, high;
-
-  bool Matches(const TRef& ref) const {
-    if (!ref) return false;
-    if (kind == kEqual) return *ref == text;
-    if (kind == kGlob) return GlobMatches(text, *ref);
-    return (low.empty() || Compare(*ref, low) >= 0) && (high.empty() || Compare(*ref, high) <= 0);
+// One alternative of a pattern, neither empty nor "..": a range, a like or an exact match.
+bool TermMatches(std::u16string_view term, std::u16string_view ref) {
+  if (const size_t at = term.find(u".."); at != std::u16string_view::npos) {
+    const std::u16string_view low = term.substr(0, at);
+    const std::u16string_view high = term.substr(at + 2);
+    return (low.empty() || Compare(ref, low) >= 0) && (high.empty() || Compare(ref, high) <= 0);
   }
-};
-
-std::optional<TTermTest> TestOfTerm(std::u16string_view term) {
-  if (term.empty() || term == u"..") return std::nullopt;
-  if (size_t at = term.find(u".."); at != std::u16string_view::npos)
-    return TTermTest{TTermTest::kRange, u"", std::u16string(term.substr(0, at)),
-                     std::u16string(term.substr(at + 2))};
-  const bool glob = term.find_first_of(u"*?_%[!") != std::u16string_view::npos;
-  return TTermTest{glob ? TTermTest::kGlob : TTermTest::kEqual, std::u16string(term), u"", u""};
+  if (term.find_first_of(u"*?_%[!") != std::u16string_view::npos) return GlobMatches(term, ref);
+  return ref == term;
 }
 
+// Blanks, or stars between blanks, match every row, NULLs too.
 bool MatchesAll(std::u16string_view pattern) {
-  const size_t first = pattern.find_first_not_of(u' ');
-  if (first == std::u16string_view::npos) return true;
-  const size_t last = pattern.find_last_not_of(u' ');
-  return pattern.substr(first, last - first + 1).find_first_not_of(u'*') == std::u16string::npos;
+  const size_t stars = std::min(pattern.find_first_not_of(u' '), pattern.size());
+  const size_t after = pattern.find_first_not_of(u'*', stars);
+  return !pattern.empty() && (after == std::u16string_view::npos ||
+                              pattern.find_first_not_of(u' ', after) == std::u16string_view::npos);
 }
 
 // The ids (positions) of the rows the pattern selects.
 std::set<int> ReferenceSelect(std::u16string_view pattern, const std::vector<TRef>& rows) {
-  std::vector<TTermTest> tests;
-  const bool oneTerm = pattern.find_first_of(u'|') == std::u16string_view::npos &&
-                       pattern.find(u"..") == std::u16string_view::npos;
-  for (std::u16string_view rest = pattern; !rest.empty();) {
-    const size_t bar = rest.find(u'|');
-    if (auto test = TestOfTerm(rest.substr(0, bar))) tests.push_back(*test);
-    rest = bar == std::u16string_view::npos ? u"" : rest.substr(bar + 1);
+  std::vector<std::u16string_view> terms;
+  for (const auto piece : std::views::split(pattern, u'|')) {
+    const std::u16string_view term(piece.begin(), piece.end());
+    if (!term.empty() && term != u"..") terms.push_back(term);
   }
-  const bool withNull = oneTerm && !pattern.empty() && MatchesAll(pattern);
+  const auto hit = [&](const TRef& row) {
+    if (terms.empty()) return true;
+    if (!row) return MatchesAll(pattern);
+    return std::ranges::any_of(terms, [&](auto term) { return TermMatches(term, *row); });
+  };
   std::set<int> ids;
-  for (size_t i = 0; i < rows.size(); ++i) {
-    const bool hit = tests.empty() || (withNull && !rows[i]) ||
-                     std::any_of(tests.begin(), tests.end(),
-                                 [&](const TTermTest& t) { return t.Matches(rows[i]); });
-    if (hit) ids.insert(static_cast<int>(i));
-  }
+  for (size_t i = 0; i < rows.size(); ++i)
+    if (hit(rows[i])) ids.insert(static_cast<int>(i));
   return ids;
 }
 
 // ---- The database ------------------------------------------------------------------------
 
-constexpr int kRows = 3000;
 constexpr std::u16string_view kAlphabet = u"AbZab09TD'!_%[:.|*? -報單關";
 
 std::u16string RandomText(std::mt19937& random, size_t maxLength, std::u16string_view alphabet) {
@@ -110,106 +90,59 @@ std::u16string RandomText(std::mt19937& random, size_t maxLength, std::u16string
   return text;
 }
 
-std::vector<TRef> GenerateRefs(std::mt19937& random) {
-  std::vector<TRef> rows;
-  for (int i = 0; i < kRows; ++i) {
-    const unsigned kind = random() % 20;
-    if (kind == 0) {
-      rows.emplace_back();
-    } else if (kind < 8) {
-      rows.emplace_back(u"TD2026" + std::u16string(1, u"0123456789"[random() % 10]) +
-                        RandomText(random, 4, u"0123456789"));
-    } else {
-      rows.emplace_back(RandomText(random, 8, kAlphabet));
-    }
-  }
-  rows.emplace_back(u"");
-  rows.emplace_back(u"   ");
-  return rows;
-}
-
-void Execute(const std::u16string& sql, const std::vector<std::u16string>& values) {
-  db::TMVADOCommand command;
-  command.SetCommandText(sql);
-  for (size_t i = 0; i < values.size(); ++i)
-    command.SetUnicodeParamValue(static_cast<int>(i), values[i], false);
-  command.Execute();
-}
-
-void InsertRows(const std::vector<TRef>& rows) {
-  Execute(u"create table Refs (Id integer, MsgRef text)", {});
-  for (size_t start = 0; start < rows.size(); start += 100) {
-    std::u16string sql = u"insert into Refs (Id, MsgRef) values ";
-    std::vector<std::u16string> values;
-    for (size_t i = start; i < std::min(rows.size(), start + 100); ++i) {
-      const std::string id = std::to_string(i);
-      sql += (i > start ? u", (" : u"(") + std::u16string(id.begin(), id.end());
-      const std::string place = std::to_string(values.size());
-      sql += rows[i] ? u", :v" + std::u16string(place.begin(), place.end()) + u")" : u", null)";
-      if (rows[i]) values.push_back(*rows[i]);
-    }
-    Execute(sql, values);
-  }
-}
-
-std::set<int> DatabaseSelect(std::u16string_view pattern) {
-  db::TMVADODataSet dataset;
-  dataset.SetCommandText(u"select Id from Refs");
-  AddWildCard(dataset, "MsgRef", pattern, true, false, "");
-  dataset.Open();
-  std::set<int> ids;
-  for (; !dataset.Eof(); dataset.Next())
-    ids.insert(static_cast<int>(dataset.Fields(0).AsInteger()));
-  dataset.Close();
-  return ids;
-}
-
 class WildcardOnDatabase : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    folder_ = new TempDir;
-    db::OpenConnection("DBMAIN", "sqlite:" + folder_->File("refs.db"));
+  // 3000 references, one in 20 NULL, a third like "TD20261234", the rest random text; then an
+  // empty and a blank one.
+  WildcardOnDatabase() {
     std::mt19937 random(20261122);
-    rows_ = GenerateRefs(random);
-    InsertRows(rows_);
-  }
-  static void TearDownTestSuite() {
-    db::CloseConnection("DBMAIN");
-    delete folder_;
+    for (int i = 0; i < 3000; ++i) {
+      const unsigned kind = random() % 20;
+      rows_.push_back(kind == 0  ? TRef()
+                      : kind < 8 ? u"TD2026" + RandomText(random, 5, u"0123456789")
+                                 : RandomText(random, 8, kAlphabet));
+    }
+    rows_.insert(rows_.end(), {u"", u"   "});
+    Exec("create table Refs (Id integer, MsgRef text)");
+    Exec("begin");
+    db::TMVADOCommand insert;
+    insert.SetCommandText(u"insert into Refs (Id, MsgRef) values (:id, :ref)");
+    for (size_t i = 0; i < rows_.size(); ++i) {
+      insert.Parameters()[0].Value = db::Variant(static_cast<int>(i));
+      insert.Parameters()[1].Value = rows_[i] ? db::Variant(*rows_[i]) : db::Variant();
+      insert.Execute();
+    }
+    Exec("commit");
   }
 
   void ExpectSameRows(const std::u16string& pattern) {
     SCOPED_TRACE(codepage::Utf8FromWide(pattern));
     std::set<int> found;
-    ASSERT_NO_THROW(found = DatabaseSelect(pattern));
+    db::TMVADODataSet dataset;
+    dataset.SetCommandText(u"select Id from Refs");
+    ASSERT_NO_THROW({
+      AddWildCard(dataset, "MsgRef", pattern, true, false, "");
+      for (dataset.Open(); !dataset.Eof(); dataset.Next())
+        found.insert(static_cast<int>(dataset.Fields(0).AsInteger()));
+    });
     EXPECT_EQ(found, ReferenceSelect(pattern, rows_));
   }
 
-  static inline TempDir* folder_ = nullptr;
-  static inline std::vector<TRef> rows_;
+  TempDir dir_;
+  SqliteBackend db_{dir_};
+  std::vector<TRef> rows_;
 };
 
+// One of each form and edge of the language, and each character SQL or the parameters treat
+// specially.
+constexpr const char16_t* kPatterns[] = {
+    u"",    u"..",  u"TD20261", u"td20261", u"td2026?1*", u"?",      u"*",   u"   ",   u" ** ",
+    u"*|X", u"*'*", u"*!*",     u"*_*",     u"*%*",       u"*[*",    u"*:*", u"A..M",  u"A..",
+    u"..M", u"...", u"a..b..c", u"A*..M",   u"'..'",      u"AB|CD*", u"|AB", u"A..C|X"};
+
 TEST_F(WildcardOnDatabase, PatternsOfTheLanguage) {
-  for (const char16_t* pattern : {u"",          u"ABC",
-                                  u"AB*",       u"A?C",
-                                  u"*",         u"50%",
-                                  u"A!B",       u"O'NEIL",
-                                  u"A..M",      u"A..",
-                                  u"..M",       u"..",
-                                  u"A*..M",     u"AB|CD*",
-                                  u"AB|",       u"|AB",
-                                  u"A..C|X",    u"*|X",
-                                  u"|",         u"...",
-                                  u"a..b..c",   u"TD2026*",
-                                  u"td2026?1*", u"*'*",
-                                  u"*!*",       u"*_*",
-                                  u"*%*",       u"*[*",
-                                  u"*:*",       u"*報*",
-                                  u"報..關",    u"   ",
-                                  u" ** ",      u"TD20261..TD20263|*單",
-                                  u"*.*",       u"?",
-                                  u"[*",        u"'..'"})
-    ExpectSameRows(pattern);
+  for (const char16_t* pattern : kPatterns) ExpectSameRows(pattern);
+  for (const char16_t* chinese : {u"*報*", u"報..關", u"TD20261..TD3|*單"}) ExpectSameRows(chinese);
 }
 
 // Random patterns built from the same characters, pieces of the stored references among them.
@@ -219,18 +152,12 @@ TEST_F(WildcardOnDatabase, RandomPatterns) {
     std::u16string pattern;
     for (unsigned piece = random() % 3 + 1; piece-- > 0;) {
       const TRef& row = rows_[random() % rows_.size()];
-      switch (random() % 4) {
-        case 0:
-          pattern += RandomText(random, 4, kAlphabet);
-          break;
-        case 1:
-          if (row) pattern += row->substr(0, random() % (row->size() + 1));
-          break;
-        case 2:
-          pattern += u"*|?.."[random() % 5];
-          break;
-        default:
-          pattern += RandomText(random, 3, u"*?|.");
+      if (const unsigned kind = random() % 3; kind == 0) {
+        pattern += RandomText(random, 4, kAlphabet);
+      } else if (kind == 1 && row) {
+        pattern += row->substr(0, random() % (row->size() + 1));
+      } else {
+        pattern += RandomText(random, 3, u"*?|..");
       }
     }
     ExpectSameRows(pattern);
