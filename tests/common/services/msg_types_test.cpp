@@ -1,16 +1,20 @@
-// SEGX in both text forms, GetMsgType on a copy of the demo database's mailbox tables, the
-// message-type lists of each language, and the split of real signed message files.
+// On copies of the demo database and real sample packages: SEGX in both text forms, GetMsgType on
+// the mailbox tables, the message-type lists of each language, the split of real signed message
+// files, the user-defined fields of a service and the start of the backup and restore tool.
 #include "common/services/msg_types.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
+#include <tuple>
 
+#include "common/frame/backup_startup.h"
 #include "common/frame/errors.h"
 #include "common/services/msg_fields.h"
 #include "common/services/msg_lists.h"
 #include "common/services/signed_files.h"
+#include "common/services/user_fields.h"
 #include "common/text/lang_changer.h"
 #include "platform/db/connections.h"
 #include "tests/common/text/text_fixture.h"
@@ -18,6 +22,8 @@
 
 namespace mv::test {
 namespace {
+
+namespace fs = std::filesystem;
 
 template <class Text>
 Text Segx(const Text& s, int n) {
@@ -33,29 +39,34 @@ TEST(SegxTest, FieldsAndThe255CharacterWindow) {
   const std::u16string wide(254, u'貨');
   EXPECT_EQ(Segx(u"a," + wide + u",z", 3), u"");
   EXPECT_EQ(Segx(u"a," + wide.substr(1) + u",z", 3), u"z");
-  std::string chain;
-  for (int i = 0; i < 40; ++i) chain += std::string(20, 'f') + ",";
-  EXPECT_EQ(Segx(chain, 14) + "|" + Segx(chain, 15), "fff|");
 }
 
-class MsgTypesTest : public TextFixture {
+// A copy of the demo database as DBMAIN, with a few more captions of user-defined fields.
+class DemoDatabaseTest : public TextFixture {
  protected:
-  MsgTypesTest() {
-    std::filesystem::copy_file(MV_DEMO_DATABASE_FILE, dir_.File("mail.db"));
-    db::OpenConnection("DBMAIN", "sqlite:" + dir_.File("mail.db"));
+  DemoDatabaseTest() {
+    fs::copy_file(MV_DEMO_DATABASE_FILE, dir_.File("main.db"));
+    db::OpenConnection("DBMAIN", "sqlite:" + dir_.File("main.db"));
+    Exec(
+        u"insert into Settings values ('TDEC_SERVICE', 4, '', NULL), "
+        u"('TDEC_SERVICE', 5, 'Vessel', '船名'), ('ETDEC_SERVICE', 1, 'Halvo ref', '')");
   }
-  ~MsgTypesTest() override { db::CloseConnection("DBMAIN"); }
+  ~DemoDatabaseTest() override {
+    db::CloseConnection("DBMAIN");
+    DefinedRecord = {};
+  }
   std::string TypeOf(double when, const std::string& refNo, const std::string& sender,
                      int mode = 1) {
     std::string result = "unset";
     GetMsgType("Inbox", MakeMsgKey(when, refNo, sender), mode, result);
     return result;
   }
+  std::string FirstCaption() const { return DefinedRecord.EngCaption->at(0); }
 
   TempDir dir_;
 };
 
-TEST_F(MsgTypesTest, StoredMessagesMatchWithinATenthOfASecond) {
+TEST_F(DemoDatabaseTest, StoredMessagesMatchWithinATenthOfASecond) {
   const double t = 45601.0 + (14 * 3600 + 2 * 60 + 47) / 86400.0;  // demo row TD24000124
   for (const auto& [tenths, type] :
        {std::pair{0.9, "HKCTRA"}, {-0.9, "HKCTRA"}, {1.1, ""}, {-1.1, ""}})
@@ -65,18 +76,18 @@ TEST_F(MsgTypesTest, StoredMessagesMatchWithinATenthOfASecond) {
       "'me'), ('R', 1 + 0.5 / 864000, 'S', 'B', 'me'), ('O''NEIL', 9, 'a''b', 'C', 'me')");
   EXPECT_EQ(TypeOf(1 + 0.4 / 864000, "R", "S", 2), "A\x01S\x01me");  // the first in the window
   EXPECT_EQ(TypeOf(9, "O'NEIL", "a'b"), "C");                        // quotes are values, not SQL
-  EXPECT_EQ(TypeOf(9, "x' or '1'='1", "a'b"), "");
   std::string result = "old";
   EXPECT_THROW(GetMsgType("Inbox", "today\x01R\x01S", 1, result), EConvertError);
   EXPECT_EQ(result, "");
 }
 
-TEST_F(MsgTypesTest, TypeListsFollowTheLanguage) {
+TEST_F(DemoDatabaseTest, TypeListsFollowTheLanguage) {
   installation_.WriteSystemIni("[E]\nHKTDEC=Declaration\n[C]\nHKTDEC=" + Big5("報關") + "\n");
   Global_Merovan_Ini = "SEDIFSYS.INI";
+  const std::string gbk = codepage::FromWide(u"报关", codepage::kGbk);
   const std::pair<uint8_t, TStringList> cases[] = {{kLangEnglish, {"HKTDEC=Declaration"}},
                                                    {kLangChinese, {"HKTDEC=" + Big5("報關")}},
-                                                   {kLangSimplified, {"HKTDEC=" + Gbk("报关")}},
+                                                   {kLangSimplified, {"HKTDEC=" + gbk}},
                                                    {2, {}}};
   for (const auto& [language, lines] : cases) {
     LangChanger().SetLanguage(language);
@@ -85,7 +96,67 @@ TEST_F(MsgTypesTest, TypeListsFollowTheLanguage) {
   EXPECT_EQ(*GetMsgList("C,NONE"), TStringList{});
 }
 
-namespace fs = std::filesystem;
+TEST_F(DemoDatabaseTest, UserDefinedFieldsTakeTheirCaptionsFromSettings) {
+  GetUserDefineFields("RCM_SERVICE", DefinedRecord);
+  EXPECT_EQ(*DefinedRecord.FieldName, (TStringList{"Ref1", "Ref2", "Ref3", "Ref4", "Ref5"}));
+  GetUserDefineFields("TDEC_SERVICE", DefinedRecord);
+  EXPECT_EQ(*DefinedRecord.EngCaption,
+            (TStringList{"Purchase Order", "Origin", "Ref #3", "Ref #4", "Vessel"}));
+  EXPECT_EQ(DefinedRecord.ChiCaption->at(4), Big5("船名"));
+  Exec("drop table Settings");
+  GetUserDefineFields("TDEC_SERVICE", DefinedRecord);
+  EXPECT_EQ(FirstCaption(), "Ref #1");
+  ASSERT_EQ(dialogs_.Requests().size(), 1u);
+  EXPECT_EQ(dialogs_.Requests()[0].text.rfind(u"不能讀取自訂欄位\r\n原因 : ", 0), 0u);
+}
+
+TEST_F(DemoDatabaseTest, BackupToolReadsOnlyWhatItNeeds) {
+  installation_.WriteSystemIni(
+      "[Receipient]\nGovernment= \t hkgovt-with-a-very-long-identity-of-40-chars\x01\n"
+      "ECIC=ecic\nMerovan=\x02mvn\n[Advance]\nEDIOutPath=/out\nWarnTDEC=0\n"
+      "[Language]\nAnsiGUI=1\nInterface=0\n");
+  LangChanger().SetLanguage(kLangEnglish);
+  SysLanguageMode = kLangEnglish;
+  Init_BackupRestore();
+  EXPECT_EQ(FirstCaption(), "Purchase Order");
+  EXPECT_EQ(Advance.Government, "HKGOVT-WITH-A-VERY-LONG-IDENTITY-OF");
+  EXPECT_EQ(Advance.Merovan + "|" + Advance.ECIC, "MVN|");
+  EXPECT_EQ(Advance.EDIInPath, installation_.BaseFolder() + "/INBOX/");
+  EXPECT_EQ(Advance.EDIOutPath, "/out/");
+  EXPECT_FALSE(Advance.WarnTDEC || Advance.SupportTypeB);
+  EXPECT_TRUE(LangChanger().AnsiInterface());
+  // LanguageMode only: neither the installation's language nor the interface is switched.
+  EXPECT_EQ((std::tuple<int, int, int>(LanguageMode, SysLanguageMode, LangChanger().Language())),
+            (std::tuple<int, int, int>(0, 1, 1)));
+  EXPECT_EQ(Service, nullptr);
+}
+
+TEST_F(DemoDatabaseTest, OnlyTheFirstBackupToolAsksForTheEditionAndAnsiGui) {
+  installation_.WriteSystemIni("[System]\nEdition=Halvo\n[Language]\nAnsiGUI=1\n");
+  Init_BackupRestore();
+  EXPECT_EQ(FirstCaption(), "Halvo ref");
+  EXPECT_TRUE(Advance.SupportTypeB && LangChanger().AnsiInterface());
+  LangChanger().SetAnsiInterface(false);
+  Init_LumoraBackupRestore();
+  EXPECT_EQ(FirstCaption(), "Purchase Order");
+  EXPECT_TRUE(Advance.SupportTypeB && !LangChanger().AnsiInterface());
+}
+
+TEST_F(DemoDatabaseTest, BackupPackagesLoadFromTheServerFolderTitledByLanguage) {
+  for (const std::string name : {"ALPHA.so", "BETA.so"})
+    fs::copy_file(SAMPLE_PACKAGE_DIR "/" + name, ServerPath + name);
+  LangChanger().SetLanguage(kLangEnglish);
+  LoadPkg_BackupRestore({"ALPHA,Backup," + Big5("備份"), "GONE,Gone," + Big5("沒有")});
+  LangChanger().SetLanguage(kLangChinese);
+  LoadPkg_BackupRestore({"BETA,Restore," + Big5("還原"), "GONE,Gone," + Big5("沒有")});
+  ASSERT_EQ(AryPkgInfo.size(), 2u);
+  EXPECT_EQ(AryPkgInfo[0].ServiceName + AryPkgInfo[0].ServiceExtra, "ALPHABackup");
+  EXPECT_EQ(AryPkgInfo[1].ServiceExtra, Big5("還原"));
+  EXPECT_NE(AryPkgInfo[1].Handle, 0u);
+  ASSERT_EQ(dialogs_.Requests().size(), 2u);
+  EXPECT_EQ(dialogs_.Requests()[0].text, u"Can't load Package: GONE,Gone,沒有");
+  EXPECT_EQ(dialogs_.Requests()[1].text, u"不能安裝建立裝置: GONE,Gone,沒有");
+}
 
 class SignedFilesTest : public ::testing::Test {
  protected:
