@@ -18,7 +18,6 @@ TEST(PreferenceText, ReadsEveryLineEndAndWritesCrLf) {
             (Lines{u"a=1", u"", u"", u"b=2", u""}));
   EXPECT_TRUE(TPreferenceText(u"").Lines().empty());
   EXPECT_EQ(TPreferenceText(u"x=1\nnote\n\ny=2").Text(), u"x=1\r\nnote\r\n\r\ny=2\r\n");
-  EXPECT_EQ(TPreferenceText().Text(), u"");
 }
 
 TEST(PreferenceText, KeysMatchWithoutCaseAndTheFirstLineCounts) {
@@ -38,9 +37,6 @@ TEST(PreferenceText, SettingReplacesInPlaceOrAppends) {
   text.SetValue(u"b", u"x=y");
   text.SetValue(u"new", u"4");
   EXPECT_EQ(text.Text(), u"a=1\r\nnote\r\nb=x=y\r\nc=3\r\nb=old\r\nnew=4\r\n");
-  TPreferenceText empty;
-  empty.SetValue(u"PeriodPreset", u"-1D#1W");
-  EXPECT_EQ(empty.Text(), u"PeriodPreset=-1D#1W\r\n");
 }
 
 TEST(PreferenceText, AnEmptyValueRemovesEveryLineOfTheKeyAndLineBreaksAreRefused) {

@@ -15,22 +15,21 @@
 namespace mv::test {
 namespace {
 
-std::string Schema() {
-  std::stringstream bytes;
-  bytes << std::ifstream(MV_SYSUSER_SQL).rdbuf();
-  return bytes.str();
-}
-
 template <class Backend>
 class UserPreferenceTest : public TextFixture {
  protected:
   UserPreferenceTest() {
-    Exec(Schema());
+    std::stringstream schema;
+    schema << std::ifstream(MV_SYSUSER_SQL).rdbuf();
+    Exec(schema.str());
     Exec("insert into sysuser (userid) values ('DEMO'), ('OTHER')");
     UserRecord.UserID = "DEMO";
     LangChanger().SetLanguage(kLangEnglish);
   }
-  ~UserPreferenceTest() override { LangChanger().SetLanguage(kLangChinese); }
+  ~UserPreferenceTest() override {
+    EXPECT_TRUE(dialogs_.Requests().empty());  // every box shown was expected
+    LangChanger().SetLanguage(kLangChinese);
+  }
   static std::u16string Stored(const char* user) {
     db::TMVADODataSet ds;
     ds.SetCommandText(std::string("select Preference from sysuser where userid = '") + user + "'");
@@ -62,7 +61,6 @@ TYPED_TEST(UserPreferenceTest, AUserWithoutARowGetsNoRowAndNoMessage) {
   UserRecord.UserID = "NOBODY";
   SaveUserPreference("PeriodPreset", "1W");
   EXPECT_EQ(GetUserPreference("PeriodPreset"), "");
-  EXPECT_TRUE(this->dialogs_.Requests().empty());
   EXPECT_EQ(Exec("update sysuser set Language = 1"), 2);
 }
 
@@ -76,7 +74,6 @@ TYPED_TEST(UserPreferenceTest, SavingChangesOneLineOfOneUserAndWritesCrLf) {
   SaveUserPreference("x", "");
   EXPECT_EQ(this->Stored("DEMO"), u"PeriodPreset=a=b,c\r\n😀=far\r\nnote\r\n");
   EXPECT_EQ(GetUserPreference("PERIODPRESET"), "a=b,c");
-  EXPECT_TRUE(this->dialogs_.Requests().empty());
 }
 
 TYPED_TEST(UserPreferenceTest, NarrowTextsAreInTheUsersCodePage) {
@@ -87,23 +84,21 @@ TYPED_TEST(UserPreferenceTest, NarrowTextsAreInTheUsersCodePage) {
   EXPECT_EQ(GetUserPreference(Big5("簡")), "?");
 }
 
-TYPED_TEST(UserPreferenceTest, DatabaseErrorsAreShownWithTheKeyAndTheReason) {
-  Exec("drop table sysuser");
-  SaveUserPreference("Period", "3M");
-  const std::u16string box = this->LastBox();
-  EXPECT_TRUE(box.starts_with(u"Error in saving user preference.\r\nPeriod=3M\r\nReason : "));
-  EXPECT_NE(box.find(u"no such table: sysuser"), std::u16string::npos);
-  LangChanger().SetLanguage(kLangChinese);
-  EXPECT_EQ(GetUserPreference("Period"), "");
-  EXPECT_TRUE(this->LastBox().starts_with(u"讀取使用者設定發生錯誤\r\nPeriod\r\n原因 : "));
-  // A value that would read back as other entries is refused alike.
-  Exec(Schema());
-  Exec("insert into sysuser (userid) values ('DEMO')");
+TYPED_TEST(UserPreferenceTest, DatabaseErrorsAndRefusedValuesAreShownWithTheKeyAndTheReason) {
+  // A value that would read back as other entries is refused, and nothing is stored.
   SaveUserPreference("a", "2\r\nevil=1");
   EXPECT_EQ(this->LastBox(),
-            u"記錄使用者設定發生錯誤\r\na=2\r\nevil=1\r\n原因 : A preference value may not hold a "
-            u"line break");
+            u"Error in saving user preference.\r\na=2\r\nevil=1\r\nReason : A preference value may "
+            u"not hold a line break");
   EXPECT_EQ(this->Stored("DEMO"), u"");
+  Exec("drop table sysuser");
+  LangChanger().SetLanguage(kLangChinese);
+  SaveUserPreference("Period", "3M");
+  const std::u16string box = this->LastBox();
+  EXPECT_TRUE(box.starts_with(u"記錄使用者設定發生錯誤\r\nPeriod=3M\r\n原因 : "));
+  EXPECT_NE(box.find(u"no such table: sysuser"), std::u16string::npos);
+  EXPECT_EQ(GetUserPreference("Period"), "");
+  EXPECT_TRUE(this->LastBox().starts_with(u"讀取使用者設定發生錯誤\r\nPeriod\r\n原因 : "));
 }
 
 }  // namespace
