@@ -6,8 +6,12 @@
 #include <sys/wait.h>
 
 #include <cstdio>
+#include <memory>
 #include <string>
 #include <utility>
+#include <vector>
+
+#include "tests/support/temp_dir.h"
 
 namespace mv::test {
 
@@ -37,5 +41,21 @@ class HelperProcess {
   std::FILE* out_;
   int pid_;
 };
+
+// Starts `commandLine` four times with the file GO of `dir` added, lets the four go together by
+// making GO, and gives the lines they printed once all have ended with exit code 0.
+inline std::vector<std::string> RunFourTogether(const TempDir& dir,
+                                                const std::string& commandLine) {
+  std::vector<std::unique_ptr<HelperProcess>> helpers;
+  for (int i = 0; i < 4; ++i)
+    helpers.push_back(std::make_unique<HelperProcess>(commandLine + " " + dir.File("go")));
+  dir.Write("go", "");
+  std::vector<std::string> lines;
+  for (auto& helper : helpers) {
+    for (std::string line; !(line = helper->ReadLine()).empty();) lines.push_back(line);
+    EXPECT_EQ(helper->Wait(), 0);
+  }
+  return lines;
+}
 
 }  // namespace mv::test

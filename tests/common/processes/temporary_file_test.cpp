@@ -1,17 +1,18 @@
 // Temporary file names: the base-36 name form, base names blocked by any extension, the failure
-// after the last attempt.
+// after the last attempt, distinct names for four processes at once.
 #include <ctime>
+#include <set>
 
 #include <gtest/gtest.h>
 
 #include "common/processes/temporary_file.h"
-#include "tests/support/temp_dir.h"
+#include "platform/files/paths.h"
+#include "tests/common/processes/helper_process.h"
 
 namespace mv::test {
 namespace {
 
 TEST(TemporaryBaseName, DigitsOfTheClockAndTheAttempt) {
-  EXPECT_EQ(TemporaryBaseName(12, 3, 14, 5, 7, 1), "C3E08J01");
   EXPECT_EQ(TemporaryBaseName(1, 1, 0, 0, 0, 1), "11000001");
   EXPECT_EQ(TemporaryBaseName(12, 31, 23, 59, 59, 1000), "CVN2RZRS");  // the largest parts
   EXPECT_EQ(TemporaryBaseName(10, 10, 10, 0, 36, 36), "AAA01010");     // 36 carries
@@ -39,8 +40,16 @@ TEST(GetTemporaryFile, SkipsBaseNamesTakenWithAnyExtensionOrCase) {
   ASSERT_EQ(GetTemporaryFile(dir.path() + "/", ".tmp", next), 0);
   EXPECT_NE(next, name);
   EXPECT_EQ(GetTemporaryFile(dir.File("missing"), ".tmp", name), -1);
-  EXPECT_EQ(name.substr(0, dir.File("missing/").size()), dir.File("missing/"));
   EXPECT_EQ(name.substr(name.size() - 6), "RS.tmp");  // attempt 1000
+}
+
+TEST(Reliability, TemporaryFilesOfFourProcessesAreAllDistinct) {
+  TempDir dir;
+  std::set<std::string> made;
+  for (const std::string& line : RunFourTogether(dir, PROCESS_HELPER " temp " + dir.path())) {
+    if (line.starts_with("0 ") && files::FileExists(line.substr(2))) made.insert(line.substr(2));
+  }
+  EXPECT_EQ(made.size(), 200u);
 }
 
 }  // namespace
