@@ -55,7 +55,6 @@ TYPED_TEST(DataSetTest, WideTextAndDatesMakeTheRoundTripThroughParameters) {
   ds.Open();
   ASSERT_EQ(ds.RecordCount(), 1);
   EXPECT_EQ(ds.FieldByName("subject").AsWideString(), u"發票 台北");
-  EXPECT_EQ(ds.GetUnicodeFieldValue(0, false), u"發票 台北");
   EXPECT_EQ(ds.FieldByName("SentAt").AsDateTime().Days, kLunarNewYear + 1);
   EXPECT_EQ(ds.FieldByName("SentAt").DataType(), ftDateTime);
 }
@@ -116,7 +115,6 @@ TYPED_TEST(DataSetTest, FieldsKeepTheirSettingsAndMoveAcrossRefresh) {
   ds.AddCalculatedField("Double", ftFloat, [](TMVADODataSet& d) {
     return Variant(d.FieldByName("Amount").AsFloat() * 2);
   });
-  EXPECT_TRUE(ds.FieldByName("Double").Calculated());
   EXPECT_EQ(ds.FieldByName("Double").AsFloat(), 21);
   test::Exec("insert into Msg (RefNo) values ('R4')");
   ds.Refresh();

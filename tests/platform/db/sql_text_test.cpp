@@ -41,12 +41,9 @@ TEST(TParameters, RebuildKeepsTypeAndValueOfNamesStillThere) {
   EXPECT_ANY_THROW(params[2]);
 }
 
-TEST(SqliteDialect, NationalLiteralsLoseTheirPrefixOnly) {
+TEST(SqliteDialect, NationalLiteralsLoseTheirPrefixAndConvertTypeNamesBecomeTexts) {
   EXPECT_EQ(SqliteDialect(u"x=N'a' or y=n'b' or ColN='c' or z='N''d'"),
             u"x='a' or y='b' or ColN='c' or z='N''d'");
-}
-
-TEST(SqliteDialect, ConvertTypeNamesBecomeTexts) {
   EXPECT_EQ(SqliteDialect(u"convert ( varchar(20) ,x)"), u"convert ( 'varchar(20)' ,x)");
   EXPECT_EQ(SqliteDialect(u"Convert('int', x)"), u"Convert('int', x)");
   EXPECT_EQ(SqliteDialect(u"MyConvert(int, x)"), u"MyConvert(int, x)");

@@ -48,7 +48,7 @@ TEST_F(SqliteDialect, GetDateIsLocalNowAsDayNumber) {
   EXPECT_LT(std::fabs(diff), 1.0 / 86400);
 }
 
-TEST_F(SqliteDialect, ConvertDatetimeStyles) {
+TEST_F(SqliteDialect, ConvertDatetimeStylesTextAndNumbers) {
   // 2024-02-29 is day 45351
   EXPECT_EQ(Scalar("select CONVERT(datetime, '2024.02.29',102)").AsFloat(), 45351);
   EXPECT_EQ(Scalar("select convert( DateTime , '2024/02/29', 111)").AsFloat(), 45351);
@@ -56,9 +56,6 @@ TEST_F(SqliteDialect, ConvertDatetimeStyles) {
   EXPECT_EQ(Scalar("select CONVERT(datetime, '2024-02-29 12:00')").AsFloat(), 45351.5);
   EXPECT_TRUE(Scalar("select CONVERT(datetime, NULL, 102)").IsNull());
   EXPECT_THROW(Scalar("select CONVERT(datetime, '2023.02.29',102)"), EDatabaseError);
-}
-
-TEST_F(SqliteDialect, ConvertTextAndNumbers) {
   EXPECT_EQ(Scalar("select CONVERT(varchar(10), 45351, 102)").AsString(), "2024.02.29");
   EXPECT_EQ(Scalar("select CONVERT(varchar(3), 'abcdef')").AsString(), "abc");
   EXPECT_EQ(Scalar("select CONVERT(int, ' 42 ')").AsInteger(), 42);

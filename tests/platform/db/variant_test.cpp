@@ -8,7 +8,7 @@
 namespace mv::db {
 namespace {
 
-TEST(DayNumber, CalendarAndClientConventionForNegativeDays) {
+TEST(DayNumber, CalendarNegativeDaysAndIsoTexts) {
   EXPECT_EQ(DayNumberOf({1899, 12, 30}), 0);
   EXPECT_EQ(DayNumberOf({2024, 2, 29}), 45351);
   EXPECT_EQ(DayNumberOf({1899, 12, 29, 6}), -1.25);
@@ -19,9 +19,7 @@ TEST(DayNumber, CalendarAndClientConventionForNegativeDays) {
   EXPECT_EQ(PartsOfDayNumber(45351.9999999999).Day, 1);
   EXPECT_EQ(DayNumberText(45351.5), "2024-02-29 12:00:00");
   EXPECT_EQ(DayNumberText(45351), "2024-02-29");
-}
-
-TEST(DayNumber, IsoTextsAndTheirMistakes) {
+  // ISO texts and their mistakes
   EXPECT_EQ(ParseIsoDate(" 2024-02-29T12:00 "), 45351.5);
   EXPECT_EQ(ParseIsoDate("2024-02-29 00:00:01.500"), 45351 + 1.5 / 86400);
   EXPECT_FALSE(ParseIsoDate("2023-02-29"));
@@ -30,7 +28,7 @@ TEST(DayNumber, IsoTextsAndTheirMistakes) {
   EXPECT_FALSE(ParseIsoDate(""));
 }
 
-TEST(Variant, ReadsAcrossKinds) {
+TEST(Variant, ReadsAcrossKindsAndRefusesWhatDoesNotConvert) {
   EXPECT_EQ(Variant(" 42 ").AsInteger(), 42);
   EXPECT_EQ(Variant(-2.9).AsInteger(), -2);
   EXPECT_EQ(Variant(u"2.5").AsFloat(), 2.5);
@@ -41,9 +39,6 @@ TEST(Variant, ReadsAcrossKinds) {
   EXPECT_FALSE(Variant().AsBool());
   EXPECT_EQ(Variant().AsString(), "");
   EXPECT_EQ(Variant(u"中").AsWideString(), u"中");
-}
-
-TEST(Variant, RefusesWhatDoesNotConvert) {
   EXPECT_THROW(Variant("12a").AsInteger(), EVariantError);
   EXPECT_THROW(Variant("").AsFloat(), EVariantError);
   EXPECT_THROW(Variant("yes").AsBool(), EVariantError);
