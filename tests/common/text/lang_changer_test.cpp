@@ -56,12 +56,8 @@ TEST_F(LangChangerTest, ChoosesByCurrentAndInstallationLanguage) {
   EXPECT_EQ(lang.SysLangUnicodeStr("Draft", "\xAF\xF3\xBD\x5A"), u"草稿");
   SysLanguageMode = 1;
   EXPECT_EQ(lang.SysLangUnicodeStr("Draft", "\xAF\xF3\xBD\x5A"), u"Draft");
-}
-
-// Language 3 shows the Chinese text in Simplified characters: GBK when narrow, whatever the
-// user's code page.
-TEST_F(LangChangerTest, SimplifiedChineseIsGbWhenNarrow) {
-  TLangChanger& lang = LangChanger();
+  // Language 3 shows the Chinese text in Simplified characters: GBK when narrow, whatever the
+  // user's code page.
   lang.SetLanguage(kLangSimplified);
   EXPECT_EQ(lang.CStr("Delete file", "刪除檔案"), "\xC9\xBE\xB3\xFD\xB5\xB5\xB0\xB8");
   EXPECT_EQ(lang.CStrW("Delete file", "刪除檔案"), u"删除档案");

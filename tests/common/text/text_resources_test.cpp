@@ -136,7 +136,7 @@ TEST_F(TextResourcesTest, LoadSStrFollowsTheInstallationAndFallsBackToEnglish) {
   EXPECT_EQ(LoadSStr(2000), "Delete %s");
 }
 
-TEST_F(TextResourcesTest, CommunicationErrorTexts) {
+TEST_F(TextResourcesTest, CommunicationAndFileErrorTextsFollowTheLanguage) {
   LangChanger().SetLanguage(kLangEnglish);
   EXPECT_EQ(get_comm_err_str(4999), "Communication error 4999.");
   EXPECT_EQ(get_comm_err_str(5000), "Com Port Error: The port cannot be opened.");
@@ -144,9 +144,7 @@ TEST_F(TextResourcesTest, CommunicationErrorTexts) {
   EXPECT_EQ(get_comm_err_str(99), "Try again later.");
   LangChanger().SetLanguage(kLangChinese);
   EXPECT_EQ(get_comm_err_str(5000), Big5("連接埠錯誤: 無法開啟通訊埠。"));
-}
-
-TEST_F(TextResourcesTest, ErrorMsgReplacesOnlyTheFourFileErrors) {
+  // ErrorMsg replaces only the four file errors 102-105.
   LangChanger().SetLanguage(kLangEnglish);
   EXPECT_EQ(ErrorMsg(EInOutError(101, "Disk write error")), "Disk write error");
   EXPECT_EQ(ErrorMsg(EInOutError(105, "x")), "Error in writing data to an input file");
