@@ -51,11 +51,9 @@ TEST(PadTest, WidthCountsStorageUnitsAndNeverCuts) {
 }
 
 TEST(PadTest, BufferPaddingStaysInsideTheBuffer) {
-  char narrow[6] = "ab";
-  EXPECT_EQ(_MV_StrRPadChar(narrow, '.', 4), 4u);
-  EXPECT_STREQ(narrow, "ab..");
+  char narrow[6] = "ab";  // the normal case is in the facade test
   EXPECT_EQ(_MV_StrRPadChar(narrow, '#', 99), 5u);
-  EXPECT_STREQ(narrow, "ab..#");
+  EXPECT_STREQ(narrow, "ab###");
   char16_t wide[4] = u"abc";
   EXPECT_EQ(_MV_StrRPadChar(wide, u'-', 2), 3u);
   EXPECT_EQ(std::u16string(wide), u"abc");
