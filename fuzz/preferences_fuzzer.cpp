@@ -5,6 +5,7 @@
 // entry's value as before, and the same lines when saved and loaded once more.
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -19,11 +20,6 @@ void Check(bool condition) {
   if (!condition) std::abort();
 }
 
-bool Refused(std::u16string_view key, std::u16string_view value) {
-  return key.find_first_of(u"=\r\n") != std::u16string_view::npos ||
-         value.find_first_of(u"\r\n") != std::u16string_view::npos;
-}
-
 // The key of line `n` of the text with its ASCII letters' case swapped, when `n` names a line
 // that has a key; else `fallback`.
 std::u16string KeyOfLine(const TPreferenceText& text, size_t n, std::u16string fallback) {
@@ -32,9 +28,8 @@ std::u16string KeyOfLine(const TPreferenceText& text, size_t n, std::u16string f
   const size_t equals = line.find(u'=');
   if (equals == std::u16string::npos) return fallback;
   std::u16string key = line.substr(0, equals);
-  for (char16_t& c : key) {
+  for (char16_t& c : key)
     if ((c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z')) c ^= 0x20;
-  }
   return key;
 }
 
@@ -45,14 +40,16 @@ size_t LinesWithKey(const TPreferenceText& text, std::u16string_view key) {
 }
 
 void CheckSet(const TPreferenceText& before, std::u16string_view key, std::u16string_view value) {
+  const bool refused = key.find_first_of(u"=\r\n") != std::u16string_view::npos ||
+                       value.find_first_of(u"\r\n") != std::u16string_view::npos;
   TPreferenceText edited = before;
   try {
     edited.SetValue(key, value);
   } catch (const std::invalid_argument&) {
-    Check(Refused(key, value) && edited.Lines() == before.Lines());
+    Check(refused && edited.Lines() == before.Lines());
     return;
   }
-  Check(!Refused(key, value));
+  Check(!refused);
   const TPreferenceText reloaded(edited.Text());
   Check(reloaded.Lines() == edited.Lines());
   Check(reloaded.Value(key) == value);
@@ -72,8 +69,7 @@ void CheckSet(const TPreferenceText& before, std::u16string_view key, std::u16st
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::u16string units(size / 2, u'\0');
-  for (size_t i = 0; i < units.size(); ++i)
-    units[i] = static_cast<char16_t>(data[2 * i] | (data[2 * i + 1] << 8));
+  std::memcpy(units.data(), data, units.size() * 2);
   if (units.empty()) return 0;
   const char16_t choice = units[0];
   std::u16string_view rest = std::u16string_view(units).substr(1);

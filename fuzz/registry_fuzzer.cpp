@@ -10,12 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::string_view bytes(reinterpret_cast<const char*>(data), size);
   mv::registry::TRegFile file = mv::registry::TRegFile::Parse(bytes, 950);
   for (std::u16string_view key : {u"\\SOFTWARE\\Merovan\\Orvex4", u"K", u""}) {
-    for (std::u16string_view value : {u"ServerPath", u"A", u""}) {
-      if (auto text = file.ReadString(key, value)) {
-        volatile size_t length = text->size();
-        (void)length;
-      }
-    }
+    for (std::u16string_view value : {u"ServerPath", u"A", u""}) file.ReadString(key, value);
   }
   return 0;
 }

@@ -6,6 +6,7 @@
 // forms.
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -26,27 +27,16 @@ void CheckSplit(std::string_view input) {
   Check(joined.size() <= input.size());
   Check(joined.find_first_of("\r\n") == std::string::npos);
   const mv::TSignedParts parts = mv::SplitSignedText(joined);
-  const bool opening = joined.find(kOpening) != std::string::npos;
-  const bool closing = joined.find(kClosing) != std::string::npos;
-  switch (parts.Code) {
-    case mv::kSplitDone:
-      Check(parts.Document.ends_with(kOpening));
-      Check(joined.starts_with(parts.Document + parts.Signature + std::string(kClosing)));
-      break;
-    case mv::kSplitNoTags:
-      Check(!opening && !closing);
-      break;
-    case mv::kSplitNoOpening:
-      Check(!opening && closing);
-      break;
-    case mv::kSplitNoClosing:
-      Check(opening && !closing);
-      break;
-    case mv::kSplitTagsReversed:
-      Check(joined.find(kClosing) < joined.find(kOpening));
-      break;
-    default:
-      Check(false);
+  const size_t opening = joined.find(kOpening), closing = joined.find(kClosing);
+  if (opening == std::string::npos || closing == std::string::npos) {
+    Check(parts.Code == (opening != std::string::npos   ? mv::kSplitNoClosing
+                         : closing != std::string::npos ? mv::kSplitNoOpening
+                                                        : mv::kSplitNoTags));
+  } else if (parts.Code == mv::kSplitTagsReversed) {
+    Check(closing < opening);
+  } else {
+    Check(parts.Code == mv::kSplitDone && parts.Document.ends_with(kOpening));
+    Check(joined.starts_with(parts.Document + parts.Signature + std::string(kClosing)));
   }
 }
 
@@ -69,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   CheckSplit(input);
   CheckSegx(input);
   std::u16string wide(size / 2, u'\0');
-  for (size_t i = 0; i < wide.size(); ++i) wide[i] = char16_t(data[2 * i] | (data[2 * i + 1] << 8));
+  std::memcpy(wide.data(), data, wide.size() * 2);
   CheckSegx(std::u16string_view(wide));
   return 0;
 }

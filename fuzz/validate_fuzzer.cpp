@@ -7,6 +7,7 @@
 // every mask with ChkFormat.
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 
 #include "common/validate/syntax_checks.h"
@@ -34,9 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (size == 0) return 0;
   const std::string bytes(reinterpret_cast<const char*>(data + 1), size - 1);
   std::u16string units(bytes.size() / 2, u'\0');
-  for (size_t i = 0; i < units.size(); ++i)
-    units[i] = static_cast<char16_t>(static_cast<uint8_t>(bytes[2 * i]) |
-                                     static_cast<uint8_t>(bytes[2 * i + 1]) << 8);
+  std::memcpy(units.data(), bytes.data(), units.size() * 2);
   const bool hasTab = units.find(u'\t') != std::u16string::npos;
   const bool tabbed = mv::IsTabDelimited(units);
   Expect(hasTab || !tabbed);

@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <string>
 #include <string_view>
 
 #include "common/search/add_wildcard.h"
-#include "common/search/param_list.h"
 #include "common/search/wildcard.h"
 #include "common/text/conversions.h"
 #include "platform/db/command.h"
@@ -55,13 +55,8 @@ void CheckOnlyFixedWords(std::u16string outside) {
   for (std::u16string_view word : {u" IS NULL", u" Escape '!'", u"MsgRef", u" like P", u" >= P",
                                    u" <= P", u" = P", u" and ", u" or "})
     RemoveAll(outside, word);
-  int depth = 0;
-  for (char16_t c : outside) {
-    if (c != u'(' && c != u')') std::abort();
-    depth += c == u'(' ? 1 : -1;
-    if (depth < 0) std::abort();
-  }
-  if (depth != 0) std::abort();
+  if (outside.find_first_not_of(u"()") != std::u16string::npos) std::abort();
+  CheckQuotedBalance<char16_t>(outside);
 }
 
 // The marked condition without its literals holds only the column and the fixed words.
@@ -80,15 +75,8 @@ void CheckMarked(std::u16string_view condition) {
   CheckOnlyFixedWords(outside);
 }
 
-// GetWildCard makes one parameter per literal, and AddWildCard appends nothing of the pattern.
+// AddWildCard makes one parameter per literal and appends nothing of the pattern.
 void CheckAttached(std::u16string_view condition, std::u16string_view pattern) {
-  mv::TParamList params;
-  std::u16string text = mv::GetWildCard(condition, true, params);
-  if (text.find(mv::WideLiteralMark) != std::u16string::npos) std::abort();
-  if (static_cast<size_t>(std::count(condition.begin(), condition.end(), mv::WideLiteralMark)) !=
-      2 * params.size())
-    std::abort();
-
   static constexpr std::u16string_view kSelect = u"select * from Inbox";
   mv::db::TMVADOCommand query;
   query.SetCommandText(kSelect);
@@ -100,7 +88,9 @@ void CheckAttached(std::u16string_view condition, std::u16string_view pattern) {
   attached.erase(0, 7);
   PlaceholdersForParameters(attached);
   CheckOnlyFixedWords(attached);
-  if (query.Parameters().Count() != static_cast<int>(params.size())) std::abort();
+  if (std::count(condition.begin(), condition.end(), mv::WideLiteralMark) !=
+      2 * query.Parameters().Count())
+    std::abort();
 }
 
 }  // namespace
@@ -115,8 +105,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   CheckQuotedBalance<char>(mv::ChangeWildCard(kColumn, narrow, true));
 
   std::u16string units(size / 2, u'\0');
-  for (size_t i = 0; i < units.size(); ++i)
-    units[i] = static_cast<char16_t>(data[2 * i] | (data[2 * i + 1] << 8));
+  std::memcpy(units.data(), data, units.size() * 2);
   const std::u16string pattern = mv::MV_WideStringToWideVc(units);
   CheckQuotedBalance<char16_t>(mv::ChangeWildCard(kColumn, pattern, true, false));
   const std::u16string marked = mv::ChangeWildCard(kColumn, pattern, false, true);
