@@ -135,13 +135,5 @@ TEST(HostEntryPointsTest, BoundOnceFromTheProgram) {
   EXPECT_EQ(SetMenuStatus, nullptr);
 }
 
-TEST(ServiceTagTest, HoldsServiceThenDocumentType) {
-  intptr_t tag = 0;
-  StoreServiceandDocType(tag, "TDEC_SERVICE", "F2");
-  EXPECT_EQ(ServiceTagList(tag), (TStringList{"TDEC_SERVICE", "F2"}));
-  FreeServiceTag(tag);
-  EXPECT_EQ(tag, 0);
-}
-
 }  // namespace
 }  // namespace mv
