@@ -93,7 +93,7 @@ TEST_F(DemoDatabaseTest, TypeListsFollowTheLanguage) {
     LangChanger().SetLanguage(language);
     EXPECT_EQ(*GetMsgList("TDEC=E,C"), lines) << int(language);
   }
-  LangChanger().SetLanguage(kLangEnglish);  // an entry without "=" is all sections
+  LangChanger().SetLanguage(kLangEnglish);  // without "=" the whole entry names the sections
   EXPECT_EQ(*GetMsgList("C,NONE"), TStringList{"HKTDEC=" + Big5("報關")});
 }
 
