@@ -108,7 +108,6 @@ TEST(RangeCondition, BoundsAndUnescaping) {
   EXPECT_EQ(RangeCondition("F", "!!..!%"), "((F >= '!') and (F <= '%'))");
   EXPECT_EQ(RangeCondition("F", u"%..", false), u"(F >= N'*')");
   EXPECT_EQ(RangeCondition("F", u"..Z", true), u"(F <= \x02Z\x02)");
-  EXPECT_EQ(RangeCondition("F", u"..", true), u"");
   EXPECT_EQ(UnescapeRangeTerm("!!!_!%![_%"), "!_%[?*");
   EXPECT_EQ(UnescapeRangeTerm(u"A!"), u"A");
   EXPECT_EQ(UnescapeRangeTerm(u""), u"");
