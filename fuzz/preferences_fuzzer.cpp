@@ -3,6 +3,7 @@
 // the key and the value, and the rest is the stored text. The text is loaded, the entry set, the
 // text saved and loaded again; the reloaded text must give the value just set, every other
 // entry's value as before, and the same lines when saved and loaded once more.
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -33,12 +34,6 @@ std::u16string KeyOfLine(const TPreferenceText& text, size_t n, std::u16string f
   return key;
 }
 
-size_t LinesWithKey(const TPreferenceText& text, std::u16string_view key) {
-  size_t count = 0;
-  for (const std::u16string& line : text.Lines()) count += mv::PreferenceLineHasKey(line, key);
-  return count;
-}
-
 void CheckSet(const TPreferenceText& before, std::u16string_view key, std::u16string_view value) {
   const bool refused = key.find_first_of(u"=\r\n") != std::u16string_view::npos ||
                        value.find_first_of(u"\r\n") != std::u16string_view::npos;
@@ -53,7 +48,9 @@ void CheckSet(const TPreferenceText& before, std::u16string_view key, std::u16st
   const TPreferenceText reloaded(edited.Text());
   Check(reloaded.Lines() == edited.Lines());
   Check(reloaded.Value(key) == value);
-  const size_t had = LinesWithKey(before, key);
+  const size_t had =
+      std::count_if(before.Lines().begin(), before.Lines().end(),
+                    [&](const auto& line) { return mv::PreferenceLineHasKey(line, key); });
   const size_t expected =
       value.empty() ? before.Lines().size() - had : before.Lines().size() + (had == 0 ? 1 : 0);
   Check(reloaded.Lines().size() == expected);
