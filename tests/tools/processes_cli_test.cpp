@@ -41,6 +41,10 @@ TEST(LockCommand, HeldBusyAndGivenUpWhenInterrupted) {
   holder.Signal(SIGTERM);
   EXPECT_EQ(holder.Wait(), 0);  // given up in order, not ended by the signal
   EXPECT_EQ(RunProgram(MVCOMMON_PROGRAM, {"lock", "Stock", "soon"}).exitCode, 2);
+  const RunResult noFolder = RunProgram(
+      MVCOMMON_PROGRAM, {"lock", "--base-path", installation.BaseFolder() + "/none", "Stock"});
+  EXPECT_EQ(noFolder.exitCode, 1);  // at once, not "busy" after fifteen attempts
+  EXPECT_EQ(noFolder.out, "");
   ResetSharedState();
 }
 

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <ctime>
 #include <optional>
+#include <stdexcept>
 #include <string>
 
 #include "common/frame/shared_state.h"
@@ -25,7 +26,8 @@ constexpr std::string_view kUsage =
     "the client does (up to 15 attempts over about three seconds). Prints \"held\" and keeps the\n"
     "right for SECONDS, or until interrupted (Ctrl-C, SIGTERM, SIGHUP) when SECONDS is not\n"
     "given, then gives it up: exit code 0. Prints \"busy\" when another process holds it: exit\n"
-    "code 3. The lock file stays behind; it blocks no one once released.\n"
+    "code 3. The lock file stays behind; it blocks no one once released. A base folder that\n"
+    "does not exist ends the program with exit code 1.\n"
     "\n"
     "Options:\n"
     "  --base-path DIR   the base folder (the parent of the server folder); without it the\n"
@@ -78,6 +80,10 @@ int Run(const ParsedArgs& args) {
     BasePath = files::IncludeTrailingDelimiter(*basePath);
   } else {
     Init();
+  }
+  // A missing base folder would show as "busy" after three seconds; it is a wrong command line.
+  if (!files::DirectoryExists(BasePath)) {
+    throw std::runtime_error("the base folder " + BasePath + " does not exist");
   }
   int32_t handle = -1;
   const bool held = SetConcurrentRight(args.positionals[0], handle);
