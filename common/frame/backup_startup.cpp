@@ -1,5 +1,6 @@
 #include "common/frame/backup_startup.h"
 
+#include "common/frame/advance_values.h"
 #include "common/frame/shared_state.h"
 #include "common/frame/startup.h"
 #include "common/services/msg_fields.h"
@@ -15,32 +16,16 @@
 namespace mv {
 namespace {
 
-constexpr size_t kRecipientLength = 35;
-
 // The two editions of the tool differ in these steps.
 struct TBackupTool {
   bool askEdition;   // the user-defined fields of ETDEC_SERVICE in the Halvo edition
   bool readAnsiGui;  // [Language] AnsiGUI sets the ANSI-interface flag
 };
 
-// A recipient identity: blanks and control characters around removed, upper-cased, at most 35
-// characters.
-std::string RecipientIdentity(const std::string& value) {
-  std::string id(TrimControls(value));
-  for (char& c : id) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return id.substr(0, kRecipientLength);
-}
-
-std::string WithFinalDelimiter(std::string folder) {
-  if (folder.empty() || folder.back() != files::kPathDelim) folder += files::kPathDelim;
-  return folder;
-}
-
 void ReadAdvance(const ini::TIniFile& ini, bool halvo) {
-  Advance.Government = RecipientIdentity(ini.ReadString("Receipient", "Government", ""));
-  Advance.Merovan = RecipientIdentity(ini.ReadString("Receipient", "Merovan", ""));
+  Advance.Government =
+      RecipientIdentity(TrimControls(ini.ReadString("Receipient", "Government", "")));
+  Advance.Merovan = RecipientIdentity(TrimControls(ini.ReadString("Receipient", "Merovan", "")));
   Advance.EDIInPath = ini.ReadString("Advance", "EDIInPath", BasePath + "INBOX");
   Advance.EDIOutPath = ini.ReadString("Advance", "EDIOutPath", BasePath + "OUTBOX");
   Advance.WarnTDEC = ini.ReadBool("Advance", "WarnTDEC", true);

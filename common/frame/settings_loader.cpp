@@ -4,6 +4,7 @@
 #include <climits>
 #include <cmath>
 
+#include "common/frame/advance_values.h"
 #include "common/frame/config_helpers.h"
 #include "common/frame/shared_state.h"
 #include "common/services/packages.h"
@@ -17,26 +18,10 @@
 namespace mv {
 namespace {
 
-constexpr size_t kRecipientLength = 35;
 constexpr size_t kVersionLength = 20;
 
 std::unique_ptr<TStringList> NewList() {
   return std::make_unique<TStringList>();
-}
-
-// A recipient identity: blanks around removed, upper-cased, at most 35 characters.
-std::string RecipientIdentity(const std::string& value) {
-  std::string id = AllTrim(value);
-  for (char& c : id) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return id.substr(0, kRecipientLength);
-}
-
-// The folder with one final separator; an empty folder becomes the separator alone.
-std::string WithFinalDelimiter(std::string folder) {
-  if (folder.empty() || folder.back() != files::kPathDelim) folder += files::kPathDelim;
-  return folder;
 }
 
 // The text without its first character ("" stays "").
@@ -82,9 +67,9 @@ void ReadFirstTable(const ini::TIniFile& ini, bool quenta) {
   ColorRecord.Integer = ini.ReadInteger("Property", "Integer", 0);
   ColorRecord.String = ini.ReadInteger("Property", "String", 0);
   ColorRecord.Others = ini.ReadInteger("Property", "Others", 0);
-  Advance.Government = RecipientIdentity(ini.ReadString("Receipient", "Government", ""));
-  Advance.ECIC = RecipientIdentity(ini.ReadString("Receipient", "ECIC", ""));
-  Advance.Merovan = RecipientIdentity(ini.ReadString("Receipient", "Merovan", ""));
+  Advance.Government = RecipientIdentity(AllTrim(ini.ReadString("Receipient", "Government", "")));
+  Advance.ECIC = RecipientIdentity(AllTrim(ini.ReadString("Receipient", "ECIC", "")));
+  Advance.Merovan = RecipientIdentity(AllTrim(ini.ReadString("Receipient", "Merovan", "")));
   Advance.EDIInPath = ini.ReadString("Advance", "EDIInPath", BasePath + "INBOX");
   Advance.EDIOutPath = ini.ReadString("Advance", "EDIOutPath", BasePath + "OUTBOX");
   Advance.UpgradePath = ini.ReadString("Advance", "UpgradePath", BasePath + "UPGRADE");
