@@ -32,7 +32,7 @@ void ApplyBatchWrite(db::TMVADODataSet& dataset) {
 }
 
 void ApplyReport(db::TMVADODataSet& dataset) {
-  Prepare(dataset, db::clUseServer, db::ltReadOnly, iReadTimeOut);
+  Prepare(dataset, db::clUseClient, db::ltReadOnly, iReadTimeOut);
 }
 
 }  // namespace mv

@@ -24,8 +24,10 @@ void ApplyWriteWoLck(db::TMVADODataSet& dataset);
 // For writing many rows: client cursor, batch-optimistic lock, time-out iWriteTimeOut.
 void ApplyBatchWrite(db::TMVADODataSet& dataset);
 
-// For reports, which read long results once from start to end: server cursor (rows fetched as
-// the report walks them, record count -1), read-only, time-out iReadTimeOut.
+// For reports, which count their rows, page back and forth through them and look rows up (a
+// holiday set handed to GetMonthDayRpt, for one): client cursor (every row fetched on open, record
+// count known, First, SetRecNo and Locate over every row), read-only, time-out iReadTimeOut. A
+// server cursor would save the memory of a long result but could only walk it forward once.
 void ApplyReport(db::TMVADODataSet& dataset);
 
 }  // namespace mv

@@ -8,6 +8,7 @@
 #include "common/frame/errors.h"
 #include "common/text/lang_changer.h"
 #include "platform/db/dataset.h"
+#include "platform/db/db_error.h"
 
 namespace mv {
 namespace {
@@ -78,6 +79,16 @@ void MonthsAndDays(TDateTime date1, TDateTime date2, const THolidayTest& isHolid
   CountMonthsAndDays(CalendarDateOf(DayOf(end)), CalendarDateOf(DayOf(date2)), months, days);
 }
 
+// Puts the open client-cursor dataset back on row `recNo` (1-based), or at its end for 0.
+void MoveBack(db::TMVADODataSet& dataset, int recNo) {
+  if (recNo > 0) {
+    dataset.SetRecNo(recNo);
+  } else if (dataset.RecordCount() > 0) {
+    dataset.SetRecNo(dataset.RecordCount());
+    dataset.Next();
+  }
+}
+
 }  // namespace
 
 std::string HolidayTableName(uint8_t language) {
@@ -115,10 +126,18 @@ void GetMonthDayRpt(db::TMVADODataSet& holidaySet, TDateTime date1, TDateTime da
                     uint16_t& months, uint16_t& days) {
   months = 0;
   days = 0;
+  holidaySet.FieldByName(kHolidayField);  // a set without the field fails before any move
+  if (holidaySet.RecordCount() < 0) {
+    throw db::EDatabaseError(
+        "The holiday set is read forward only: open it with a client cursor (ApplyRead or "
+        "ApplyReport) so that every day can be looked up among all its rows");
+  }
+  const int recNo = holidaySet.RecNo();
   const auto isHoliday = [&holidaySet](int64_t day) {
     return holidaySet.Locate(kHolidayField, db::Variant(TDateTime{static_cast<double>(day)}));
   };
   MonthsAndDays(date1, date2, isHoliday, months, days);
+  MoveBack(holidaySet, recNo);
 }
 
 uint16_t LastDay(uint16_t year, uint16_t month) {

@@ -34,9 +34,11 @@ std::string HolidayTableName(uint8_t language);
 void GetMonthDay(TDateTime date1, TDateTime date2, uint16_t& months, uint16_t& days);
 
 // The same with the holidays of `holidaySet`, an open dataset with a field HolDate, which the
-// caller keeps: each day is looked up with Locate, which moves its current row (give it a client
-// cursor, so that every lookup searches all rows). A dataset without HolDate raises
-// mv::db::EDatabaseError, with `months` and `days` 0.
+// caller keeps: each day is looked up with Locate among all its rows, and the set is back on its
+// row when the routine returns, so the answer does not depend on where the set stood. The set
+// needs a client cursor (ApplyRead or ApplyReport prepare one); a forward-only set (server cursor)
+// or one without HolDate raises mv::db::EDatabaseError, with `months` and `days` 0 and the set
+// not moved.
 void GetMonthDayRpt(db::TMVADODataSet& holidaySet, TDateTime date1, TDateTime date2,
                     uint16_t& months, uint16_t& days);
 

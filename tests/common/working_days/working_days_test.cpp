@@ -87,17 +87,34 @@ TEST_F(WorkingDays, TheLanguageChoosesTheTableAndQueryErrorsReachTheCaller) {
   db::OpenConnection("DBMAIN", "sqlite:" + dir_.File("mvdemo.db"));
 }
 
+// Whatever the library prepared the caller's set with, and wherever the caller left it, the
+// answer is the table's and the set stays on its row; a set that reads forward only is refused.
 TEST_F(WorkingDays, CallersHolidaySetAgreesWithTheTable) {
   LangChanger().SetLanguage(kLangEnglish);
-  db::TMVADODataSet holidays;
-  ApplyRead(holidays);
-  holidays.SetCommandText("select HolDate, HolName from Holiday order by HolName");
-  holidays.Open();
   const TDateTime start = Date(2024, 1, 2);
-  for (int64_t day = DayOf(start); day < DayOf(start) + 800; day += 3) {
-    ASSERT_EQ(MonthDay(DateOf(day, 0.5), start, &holidays), MonthDay(DateOf(day, 0.5), start));
+  for (const auto prepare : {ApplyRead, ApplyReport}) {
+    db::TMVADODataSet holidays;
+    prepare(holidays);
+    holidays.SetCommandText("select HolDate, HolName from Holiday order by HolName");
+    holidays.Open();
+    holidays.SetRecNo(holidays.RecordCount());
+    holidays.Next();  // at the end, where a report leaves a set it has walked
+    EXPECT_EQ(MonthDay(Date(2024, 4, 2, 10), Date(2024, 1, 15), &holidays), TMonthsDays(2, 14));
+    EXPECT_TRUE(holidays.Eof());
+    holidays.SetRecNo(3);
+    for (int64_t day = DayOf(start); day < DayOf(start) + 800; day += 3) {
+      ASSERT_EQ(MonthDay(DateOf(day, 0.5), start, &holidays), MonthDay(DateOf(day, 0.5), start));
+    }
+    EXPECT_EQ(holidays.RecNo(), 3);
   }
+  db::TMVADODataSet holidays;
+  holidays.SetCursorLocation(db::clUseServer);
+  holidays.SetCommandText("select HolDate from Holiday");
+  holidays.Open();
+  EXPECT_THROW(MonthDay(Date(2024, 4, 10), start, &holidays), db::EDatabaseError);
+  EXPECT_EQ(holidays.RecNo(), 1);
   holidays.Close();
+  holidays.SetCursorLocation(db::clUseClient);
   holidays.SetCommandText("select HolName from Holiday");
   holidays.Open();
   EXPECT_THROW(MonthDay(Date(2024, 4, 10), start, &holidays), db::EDatabaseError);
