@@ -37,8 +37,10 @@ void MakeTempFolder() {
 }
 
 // One attempt of SetConcurrentRight: true when `handle` holds the right afterwards.
-bool TryOnce(const std::string& lockFile, int32_t& handle) {
-  if (!files::FileExists(lockFile) || handle < 1) handle = files::LockFileExclusive(lockFile);
+bool TryOnce(const std::string& lockFile, int32_t& handle, files::TLockError& error) {
+  error = files::TLockError::kNone;
+  if (!files::FileExists(lockFile) || handle < 1)
+    handle = files::LockFileExclusive(lockFile, error);
   return handle > 0;
 }
 
@@ -49,6 +51,11 @@ std::string LockFileName(const std::string& resource) {
 }
 
 bool SetConcurrentRight(const std::string& resource, int32_t& handle) {
+  files::TLockError ignored;
+  return SetConcurrentRight(resource, handle, ignored);
+}
+
+bool SetConcurrentRight(const std::string& resource, int32_t& handle, files::TLockError& error) {
   HourGlass hourGlass;
   FRetryAccess = 0;
   MakeTempFolder();
@@ -56,8 +63,8 @@ bool SetConcurrentRight(const std::string& resource, int32_t& handle) {
   bool held = false;
   while (FRetryAccess < kMostAttempts) {
     ++FRetryAccess;
-    held = TryOnce(lockFile, handle);
-    if (held) break;
+    held = TryOnce(lockFile, handle, error);
+    if (held || error != files::TLockError::kHeld) break;
     std::this_thread::sleep_for(kRetryPause);
   }
   FRetryAccess = 0;

@@ -12,6 +12,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/files/lock_file.h"
+
 namespace mv {
 
 // The lock file of `resource` (narrow text): BasePath + "Temp" + separator + resource + ".lck".
@@ -22,11 +24,16 @@ std::string LockFileName(const std::string& resource);
 // 200 milliseconds apart, counted in FRetryAccess: an attempt opens the lock file into `handle`
 // (making the file when it is missing) unless the file exists and `handle` is already 1 or more,
 // in which case the caller holds the right already and nothing is opened. Stops at the first
-// attempt that leaves `handle` greater than 0. Afterwards FRetryAccess is 0 again and the cursor
+// attempt that leaves `handle` greater than 0, or at the first that fails for another reason than
+// a holder (the file cannot be made or opened: no permission, a separator in `resource`, "Temp"
+// not a folder), as waiting cannot help then. Afterwards FRetryAccess is 0 again and the cursor
 // is as before. Returns true when the right is held; false when the resource stayed busy, with
 // `handle` the failed open's -1. Another process holding the file, or another handle of this
 // process, makes the resource busy; a lock file left behind by a copy that ended does not.
 bool SetConcurrentRight(const std::string& resource, int32_t& handle);
+// The same, telling in `error` why the right was not taken: files::TLockError::kHeld for a busy
+// resource, kPermission or kOther when the lock file could not be made or opened.
+bool SetConcurrentRight(const std::string& resource, int32_t& handle, files::TLockError& error);
 
 // Gives up a right: when `handle` is greater than 0, closes it and sets it to -1; otherwise does
 // nothing. The lock file stays on disk.

@@ -2,6 +2,7 @@
 // share the installation folder, take turns at a shared resource by holding its lock file open.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <string>
 
@@ -10,6 +11,15 @@ namespace mv::files {
 // A held lock file: greater than 0 while held. kNoLock is what a failed attempt gives and what a
 // released handle is set to.
 inline constexpr int32_t kNoLock = -1;
+
+// Why a lock file was not taken.
+enum class TLockError {
+  kNone,        // the lock is held
+  kHeld,        // another handle holds it (in this process or another); trying again may succeed
+  kPermission,  // the file may not be made or opened: permission, a read-only file system
+  kOther,       // anything else: a missing folder, a folder where the file should be, a name
+                // with a separator in the wrong place, no locks on this file system
+};
 
 // Opens the lock file `path` for writing (making it when it is missing) and takes its exclusive
 // lock without waiting. Returns the handle (greater than 0) when the lock is now held by this
@@ -22,6 +32,14 @@ inline constexpr int32_t kNoLock = -1;
 // programs the process starts. When the file is removed or replaced while the lock is being taken,
 // the attempt fails, so that two takers never hold two different files of one name.
 int32_t LockFileExclusive(const std::string& path);
+// The same, telling in `error` why the lock was not taken (kNone when it was).
+int32_t LockFileExclusive(const std::string& path, TLockError& error);
+
+// LockFileExclusive, tried again while another handle holds the lock, until `timeout` has passed
+// (the pauses between attempts grow from one millisecond to a few tens). Other errors end the
+// wait at once. Gives the handle, or kNoLock with the last attempt's error.
+int32_t LockFileWaiting(const std::string& path, std::chrono::milliseconds timeout,
+                        TLockError& error);
 
 // Gives up the lock of `handle` (a handle of LockFileExclusive) by closing it. The file stays.
 void UnlockFile(int32_t handle);

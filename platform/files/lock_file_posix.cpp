@@ -40,18 +40,39 @@ bool StillNamed(int fd, const std::string& path) {
          opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-int32_t OpenAndLock(const std::string& path, int flags) {
+// The error kind of a failed open.
+TLockError OpenError(int error) {
+  return error == EACCES || error == EPERM || error == EROFS ? TLockError::kPermission
+                                                             : TLockError::kOther;
+}
+
+// The error kind of a failed F_OFD_SETLK: a conflicting lock, or no lock service at all.
+TLockError LockError(int error) {
+  return error == EAGAIN || error == EACCES ? TLockError::kHeld : TLockError::kOther;
+}
+
+int32_t OpenAndLock(const std::string& path, int flags, TLockError& error) {
   const int fd = OpenAboveZero(path, flags);
-  if (fd < 0) return kNoLock;
-  if (TakeWriteLock(fd) && StillNamed(fd, path)) return fd;
+  if (fd < 0) {
+    error = OpenError(errno);
+    return kNoLock;
+  }
+  if (!TakeWriteLock(fd)) {
+    error = LockError(errno);
+  } else if (!StillNamed(fd, path)) {
+    error = TLockError::kHeld;  // removed or replaced by its holder meanwhile: try again
+  } else {
+    error = TLockError::kNone;
+    return fd;
+  }
   ::close(fd);
   return kNoLock;
 }
 
 }  // namespace
 
-int32_t LockFileExclusive(const std::string& path) {
-  return OpenAndLock(path, O_WRONLY | O_CREAT);
+int32_t LockFileExclusive(const std::string& path, TLockError& error) {
+  return OpenAndLock(path, O_WRONLY | O_CREAT, error);
 }
 
 void UnlockFile(int32_t handle) {
@@ -59,7 +80,8 @@ void UnlockFile(int32_t handle) {
 }
 
 bool RemoveLockFile(const std::string& path) {
-  const int32_t handle = OpenAndLock(path, O_WRONLY);
+  TLockError ignored;  // any failure leaves the file; only its absence counts
+  const int32_t handle = OpenAndLock(path, O_WRONLY, ignored);
   if (handle == kNoLock) return ::access(path.c_str(), F_OK) != 0 && errno == ENOENT;
   // Removed while locked: a taker that opened it meanwhile finds the name gone and fails.
   const bool removed = ::unlink(path.c_str()) == 0;

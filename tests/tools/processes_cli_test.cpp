@@ -1,6 +1,8 @@
 // "mvcommon tempname" and "mvcommon lock", run as separate processes.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "common/frame/shared_state.h"
 #include "common/processes/concurrent_right.h"
 #include "platform/files/lock_file.h"
@@ -46,6 +48,32 @@ TEST(LockCommand, HeldBusyAndGivenUpWhenInterrupted) {
   EXPECT_EQ(noFolder.exitCode, 1);  // at once, not "busy" after fifteen attempts
   EXPECT_EQ(noFolder.out, "");
   ResetSharedState();
+}
+
+// Only a holder makes a resource busy; a lock file that cannot be made is an error, told at once.
+TEST(LockCommand, LockFileThatCannotBeMadeIsAnErrorNotBusy) {
+  TestInstallation installation;
+  const std::string base = installation.BaseFolder();
+  const auto lock = [&](const std::string& resource) {
+    return RunProgram(MVCOMMON_PROGRAM, {"lock", "--base-path", base, resource, "0"});
+  };
+  const RunResult slash = lock("a/b");
+  EXPECT_EQ(slash.exitCode, 1);
+  EXPECT_EQ(slash.out, "");
+  EXPECT_NE(slash.err.find("the lock file " + base + "/Temp/a/b.lck cannot be made"),
+            std::string::npos)
+      << slash.err;
+  std::filesystem::remove_all(base + "/Temp");
+  installation.Dir().Write("client/Temp", "");  // a plain file where the folder should be
+  EXPECT_EQ(lock("Stock").exitCode, 1);
+  // A folder where not even root may make files.
+  if (!files::DirectoryExists("/sys/kernel")) GTEST_SKIP() << "no /sys/kernel";
+  std::filesystem::remove(base + "/Temp");
+  std::filesystem::create_directory_symlink("/sys/kernel", base + "/Temp");
+  const RunResult denied = lock("Stock");
+  EXPECT_EQ(denied.exitCode, 1);
+  EXPECT_EQ(denied.out, "");
+  EXPECT_NE(denied.err.find("no permission"), std::string::npos) << denied.err;
 }
 
 }  // namespace

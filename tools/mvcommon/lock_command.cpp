@@ -13,6 +13,7 @@
 #include "common/frame/shared_state.h"
 #include "common/frame/startup.h"
 #include "common/processes/concurrent_right.h"
+#include "platform/files/lock_file.h"
 #include "platform/files/paths.h"
 #include "tools/mvcommon/command_line.h"
 
@@ -26,8 +27,9 @@ constexpr std::string_view kUsage =
     "the client does (up to 15 attempts over about three seconds). Prints \"held\" and keeps the\n"
     "right for SECONDS, or until interrupted (Ctrl-C, SIGTERM, SIGHUP) when SECONDS is not\n"
     "given, then gives it up: exit code 0. Prints \"busy\" when another process holds it: exit\n"
-    "code 3. The lock file stays behind; it blocks no one once released. A base folder that\n"
-    "does not exist ends the program with exit code 1.\n"
+    "code 3. The lock file stays behind; it blocks no one once released. A lock file that\n"
+    "cannot be made or opened (no permission, a \"/\" in RESOURCE, Temp not a folder) and a\n"
+    "base folder that does not exist end the program with a message and exit code 1.\n"
     "\n"
     "Options:\n"
     "  --base-path DIR   the base folder (the parent of the server folder); without it the\n"
@@ -59,6 +61,14 @@ void WaitFor(long seconds, const sigset_t& signals) {
   sigtimedwait(&signals, nullptr, &limit);
 }
 
+// The error of a lock file that could not be made or opened (any error but a holder).
+std::runtime_error LockFileError(const std::string& resource, files::TLockError error) {
+  const std::string file = LockFileName(resource);
+  return std::runtime_error(error == files::TLockError::kPermission
+                                ? "no permission to make or open the lock file " + file
+                                : "the lock file " + file + " cannot be made or opened");
+}
+
 void Print(std::string_view line) {
   std::fwrite(line.data(), 1, line.size(), stdout);
   std::fflush(stdout);
@@ -86,7 +96,12 @@ int Run(const ParsedArgs& args) {
     throw std::runtime_error("the base folder " + BasePath + " does not exist");
   }
   int32_t handle = -1;
-  const bool held = SetConcurrentRight(args.positionals[0], handle);
+  files::TLockError error = files::TLockError::kNone;
+  const bool held = SetConcurrentRight(args.positionals[0], handle, error);
+  if (!held && error != files::TLockError::kHeld) {
+    if (!basePath) FreeStrList();
+    throw LockFileError(args.positionals[0], error);
+  }
   Print(held ? "held\n" : "busy\n");
   if (held) WaitFor(seconds, signals);
   ResetConcurrentRight(handle);
