@@ -14,11 +14,11 @@ namespace mv {
 void ApplyRead(db::TMVADODataSet& dataset);
 
 // For writing one row at a time under a lock: client cursor, pessimistic lock, time-out
-// iWriteTimeOut.
+// iWriteTimeOut. Rows are written by their table's primary key; the last writer wins.
 void ApplyWrite(db::TMVADODataSet& dataset);
 
-// For writing without a lock: client cursor, optimistic lock (a row changed by someone else
-// since it was read is refused on Post), time-out iWriteTimeOut.
+// For writing without a lock: client cursor, optimistic lock, time-out iWriteTimeOut. Rows are
+// written as ApplyWrite writes them.
 void ApplyWriteWoLck(db::TMVADODataSet& dataset);
 
 // For writing many rows: client cursor, batch-optimistic lock, time-out iWriteTimeOut.

@@ -15,10 +15,9 @@
 namespace mv {
 namespace {
 
-// The user id is selected beside the text so that a write names the user's own row: a row is
-// written back by the values it was read with, and the text alone may be shared by many users.
+// A write names the user's row by the table's key, userid, which the dataset reads beside the text.
 constexpr std::string_view kSelectPreference =
-    "Select userid, Preference from sysuser where userid=:puserid";
+    "Select Preference from sysuser where userid=:puserid";
 constexpr std::string_view kPreferenceField = "Preference";
 
 std::u16string UserText(std::string_view narrow) {

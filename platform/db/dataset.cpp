@@ -5,6 +5,7 @@
 #include "platform/db/dataset_impl.h"
 #include "platform/db/db_error.h"
 #include "platform/db/qt_values.h"
+#include "platform/db/row_keys_p.h"
 #include "platform/db/run_query.h"
 #include "platform/db/sql_text.h"
 
@@ -20,6 +21,24 @@ TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types) {
   return row;
 }
 
+// Runs the dataset's command text; on an editable select from one table with a primary key, with
+// the key columns selected first (`keyColumns` set to their number). A text that the extra columns
+// break (an aggregate on the server, say) runs as written, its rows named by every column read.
+QSqlQuery RunSelect(const TMVADODataSet& dataset, const std::u16string& table, size_t& keyColumns) {
+  keyColumns = 0;
+  if (table.empty() || dataset.ReadOnly()) return RunQuery(dataset, true);
+  const std::vector<std::string> keys = PrimaryKeyOf(dataset.ConnectionName(), table);
+  const std::u16string keyed = WithKeyColumns(dataset.CommandText(), keys);
+  if (keyed.empty()) return RunQuery(dataset, true);
+  try {
+    QSqlQuery query = RunQuery(dataset, keyed, true);
+    keyColumns = keys.size();
+    return query;
+  } catch (const EDatabaseError&) {
+    return RunQuery(dataset, true);
+  }
+}
+
 }  // namespace
 
 TMVADODataSet::TMVADODataSet() : impl_(std::make_unique<Impl>()) {}
@@ -33,11 +52,12 @@ void TMVADODataSet::CheckOpen() const {
 
 void TMVADODataSet::Open() {
   if (Active()) return;
-  QSqlQuery query = RunQuery(*this, true);
+  Impl fresh;
+  fresh.table = SingleTableOf(PrepareSql(CommandText()).Sql);
+  QSqlQuery query = RunSelect(*this, fresh.table, fresh.keyColumns);
   const TBackend backend = Connection(ConnectionName()).Backend;
   const QSqlRecord record = query.record();
   std::vector<TFieldType> declared = DeclaredColumnTypes(ConnectionName(), query);
-  Impl fresh;
   for (int i = 0; i < record.count(); ++i) {
     TFieldType type = static_cast<size_t>(i) < declared.size() ? declared[i] : ftUnknown;
     if (type == ftUnknown) type = FieldTypeOfQt(record.field(i), backend);
@@ -54,11 +74,10 @@ void TMVADODataSet::Open() {
     fresh.cursor.emplace(std::move(query));
   }
   // Fields made last, so that a failure above leaves the dataset closed.
-  for (size_t i = 0; i < fresh.columnNames.size(); ++i) {
+  for (size_t i = fresh.keyColumns; i < fresh.columnNames.size(); ++i) {
     fresh.fields.emplace_back(
         new TField(*this, static_cast<int>(i), fresh.columnNames[i], fresh.columnTypes[i]));
   }
-  fresh.table = SingleTableOf(PrepareSql(CommandText()).Sql);
   fresh.state = dsBrowse;
   *impl_ = std::move(fresh);
   if (afterOpen_) afterOpen_(*this);

@@ -23,7 +23,11 @@ enum TDataSetState { dsInactive, dsBrowse, dsEdit, dsInsert };
 enum TCursorLocation { clUseServer, clUseClient };
 
 // ltReadOnly refuses Edit, Insert and Append. The other kinds allow them; every Post writes its
-// row at once (an update names the row by all its old values, as the row was read).
+// row at once. An update names the row by its table's primary key, read from the schema and
+// selected beside the columns the text reads when they do not include it; a row another
+// connection changed since it was read is overwritten (the last writer wins). Only a table without
+// a primary key has its row named by the old values of every column read (no long text, bytes or
+// dates), and an edit that those cannot tell from other rows is refused.
 enum TLockType { ltUnspecified, ltReadOnly, ltPessimistic, ltOptimistic, ltBatchOptimistic };
 
 // Called with the dataset after it opened or refreshed.

@@ -1,21 +1,18 @@
 // Editing a dataset: the row buffer and the statements that write it to its one table.
+#include <strings.h>
+
+#include <QtSql/QSqlDriver>
+
 #include "platform/db/connection_qt.h"
 #include "platform/db/dataset.h"
 #include "platform/db/dataset_impl.h"
 #include "platform/db/db_error.h"
+#include "platform/db/qt_values.h"
+#include "platform/db/row_keys_p.h"
 #include "platform/db/run_query.h"
 
 namespace mv::db {
 namespace {
-
-std::u16string Quoted(const std::string& column) {
-  std::u16string out = u"[";
-  for (char16_t c : QString::fromStdString(column).toStdU16String()) {
-    out += c;
-    if (c == u']') out += u']';
-  }
-  return out + u"]";
-}
 
 // Columns that can name a row in a where clause: no long text, bytes or dates (whose stored
 // form may differ from the form read back).
@@ -44,7 +41,7 @@ TStatement InsertStatement(const std::u16string& table, const TMVADODataSet::Imp
   std::u16string columns, places;
   for (size_t i = 0; i < d.buffer.size(); ++i) {
     if (!d.assigned[i]) continue;
-    columns += (columns.empty() ? u"" : u", ") + Quoted(d.columnNames[i]);
+    columns += (columns.empty() ? u"" : u", ") + QuotedName(d.columnNames[i]);
     places += places.empty() ? u"?" : u", ?";
     s.Values.push_back({d.buffer[i], d.columnTypes[i]});
   }
@@ -53,33 +50,80 @@ TStatement InsertStatement(const std::u16string& table, const TMVADODataSet::Imp
   return s;
 }
 
-TStatement UpdateStatement(const std::u16string& table, const TMVADODataSet::Impl& d,
-                           const TRow& old) {
-  TStatement s;
-  std::u16string sets, where;
-  for (size_t i = 0; i < d.buffer.size(); ++i) {
-    if (!d.assigned[i]) continue;
-    sets += (sets.empty() ? u"" : u", ") + Quoted(d.columnNames[i]) + u" = ?";
-    s.Values.push_back({d.buffer[i], d.columnTypes[i]});
+// True when the row `old` holds its table's primary key, so that the key alone names it.
+bool HasKey(const TMVADODataSet::Impl& d, const TRow& old) {
+  if (d.keyColumns == 0) return false;
+  for (size_t i = 0; i < d.keyColumns; ++i) {
+    if (old[i].IsNull()) return false;
   }
-  for (size_t i = 0; i < old.size(); ++i) {
-    if (!Comparable(d.columnTypes[i])) continue;
-    where += (where.empty() ? u"" : u" AND ") + Quoted(d.columnNames[i]);
+  return true;
+}
+
+// The where clause that names the row `old`: its primary key, or, for a table without one (or a
+// new row whose key is not known), every comparable column read.
+std::u16string RowCondition(const TMVADODataSet::Impl& d, const TRow& old,
+                            std::vector<TBoundValue>& values) {
+  const bool byKey = HasKey(d, old);
+  const size_t first = byKey ? 0 : d.keyColumns;
+  const size_t end = byKey ? d.keyColumns : old.size();
+  std::u16string where;
+  for (size_t i = first; i < end; ++i) {
+    if (!byKey && !Comparable(d.columnTypes[i])) continue;
+    where += (where.empty() ? u"" : u" AND ") + QuotedName(d.columnNames[i]);
     if (old[i].IsNull()) {
       where += u" IS NULL";
     } else {
       where += u" = ?";
-      s.Values.push_back({old[i], d.columnTypes[i]});
+      values.push_back({old[i], d.columnTypes[i]});
     }
   }
-  if (sets.empty()) return {};
   if (where.empty()) {
     throw EDatabaseError(
-        "Insufficient key column information for updating: the query reads no column that can "
-        "name the row");
+        "Insufficient key column information for updating: the table has no primary key and the "
+        "query reads no column that can name the row");
   }
-  s.Sql = u"UPDATE " + table + u" SET " + sets + u" WHERE " + where;
+  return where;
+}
+
+TStatement UpdateStatement(const std::u16string& table, const TMVADODataSet::Impl& d,
+                           const TRow& old) {
+  TStatement s;
+  std::u16string sets;
+  for (size_t i = 0; i < d.buffer.size(); ++i) {
+    if (!d.assigned[i]) continue;
+    sets += (sets.empty() ? u"" : u", ") + QuotedName(d.columnNames[i]) + u" = ?";
+    s.Values.push_back({d.buffer[i], d.columnTypes[i]});
+  }
+  if (sets.empty()) return {};
+  s.Sql = u"UPDATE " + table + u" SET " + sets + u" WHERE " + RowCondition(d, old, s.Values);
   return s;
+}
+
+bool SameName(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
+}
+
+bool IsWholeNumber(TFieldType type) {
+  return type == ftSmallint || type == ftInteger || type == ftLargeint;
+}
+
+// After a write: the key columns of the written row take the values assigned to the read columns
+// of the same name; a new row's single whole-number key not assigned is the one the database gave
+// (`insert`, the insert run, where the driver tells).
+void KeepKeyOfWrittenRow(TMVADODataSet::Impl& d, const QSqlQuery* insert) {
+  for (size_t key = 0; key < d.keyColumns; ++key) {
+    bool assigned = false;
+    for (size_t i = d.keyColumns; i < d.buffer.size(); ++i) {
+      if (d.assigned[i] && SameName(d.columnNames[i], d.columnNames[key])) {
+        d.buffer[key] = d.buffer[i];
+        assigned = true;
+      }
+    }
+    if (!assigned && insert != nullptr && d.keyColumns == 1 && IsWholeNumber(d.columnTypes[key]) &&
+        insert->driver()->hasFeature(QSqlDriver::LastInsertId)) {
+      d.buffer[key] = FromQt(insert->lastInsertId(), d.columnTypes[key]);
+    }
+  }
 }
 
 // Runs the update `s`, which must change exactly the edited row. Where the connection can, the
@@ -150,8 +194,10 @@ void TMVADODataSet::Post() {
                                            : UpdateStatement(table, d, d.rows[d.current]);
   if (!s.Sql.empty() && d.state == dsEdit) {
     RunRowUpdate(ConnectionName(), s, CommandTimeout());
+    KeepKeyOfWrittenRow(d, nullptr);
   } else if (!s.Sql.empty()) {
-    RunSql(ConnectionName(), s.Sql, s.Values, CommandTimeout(), true);
+    const QSqlQuery insert = RunSql(ConnectionName(), s.Sql, s.Values, CommandTimeout(), true);
+    KeepKeyOfWrittenRow(d, &insert);
   }
   if (d.state == dsEdit) {
     d.rows[d.current] = d.buffer;

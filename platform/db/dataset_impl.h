@@ -17,6 +17,9 @@ struct TMVADODataSet::Impl {
   std::vector<std::unique_ptr<TField>> fields;  // in field order
   std::vector<TFieldType> columnTypes;          // by column of the row buffer
   std::vector<std::string> columnNames;
+  // The first columns of the row buffer hold the table's primary key, selected for writing rows
+  // back and never made fields; 0 when the rows are named by every column read.
+  size_t keyColumns = 0;
   // Client cursor: every row. Server cursor: the current row only (none at the end).
   std::vector<TRow> rows;
   size_t current = 0;               // index in rows; rows.size() at the end

@@ -64,7 +64,11 @@ QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
 }
 
 QSqlQuery RunQuery(const TMVADOQuery& query, bool forwardOnly) {
-  const TPreparedSql prepared = PrepareSql(query.CommandText());
+  return RunQuery(query, query.CommandText(), forwardOnly);
+}
+
+QSqlQuery RunQuery(const TMVADOQuery& query, std::u16string_view commandText, bool forwardOnly) {
+  const TPreparedSql prepared = PrepareSql(commandText);
   std::vector<TBoundValue> values;
   values.reserve(prepared.Places.size());
   const TParameters& params = query.Parameters();

@@ -3,6 +3,7 @@
 
 #include <QtSql/QSqlQuery>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/db/query.h"
@@ -23,6 +24,8 @@ QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
 
 // Runs the command text of `query` with its parameters bound by name to their places.
 QSqlQuery RunQuery(const TMVADOQuery& query, bool forwardOnly);
+// The same with `commandText` in place of the query's own text.
+QSqlQuery RunQuery(const TMVADOQuery& query, std::u16string_view commandText, bool forwardOnly);
 
 // The field types of the result columns of the run `query` by their declared type names (what Qt
 // does not tell): SQLite's declared types, or the type names an ODBC driver gives; empty when

@@ -84,6 +84,17 @@ TYPED_TEST(UserPreferenceTest, NarrowTextsAreInTheUsersCodePage) {
   EXPECT_EQ(GetUserPreference(Big5("簡")), "?");
 }
 
+// The user's row is written by its key, whatever the text holds: here Big5 bytes stored raw in a
+// national text column (the server's column type), which do not read back as stored.
+TYPED_TEST(UserPreferenceTest, ATextThatDoesNotReadBackAsStoredIsSavedOver) {
+  Exec("drop table sysuser");
+  Exec("create table sysuser (userid nvarchar(20) primary key, Preference nvarchar(4000))");
+  Exec("insert into sysuser values ('DEMO', cast(X'A4A4A4E5' as text)), ('OTHER', 'x=1')");
+  SaveUserPreference("PeriodPreset", "3M");
+  EXPECT_EQ(GetUserPreference("PeriodPreset"), "3M");
+  EXPECT_EQ(this->Stored("OTHER"), u"x=1");
+}
+
 TYPED_TEST(UserPreferenceTest, DatabaseErrorsAndRefusedValuesAreShownWithTheKeyAndTheReason) {
   // A value that would read back as other entries is refused, and nothing is stored.
   SaveUserPreference("a", "2\r\nevil=1");
