@@ -38,7 +38,7 @@ endfunction()
 set(library "^(platform|modules|common)/")
 set(widget_folders "^(common/forms|platform/qt|platform/report)/")
 set(public_core_header "^(platform|modules|common)/.*\\.(h|hh|hpp)$")
-set(private_header "(_p\\.(h|hh|hpp)$|/internal/)")
+set(private_header "_p\\.(h|hh|hpp)$")
 set(widget_headers "^<Qt(PrintSupport|[A-Za-z0-9]*Widgets)(/|>)")
 set(db_drivers "^<(sqlite3|sqlite3ext|sql|sqlext|sqltypes|sqlucode|odbcinst)\\.h>")
 
