@@ -9,7 +9,13 @@
 namespace mv {
 namespace {
 
-ini::TIniFile OpenSystemIni() { return ini::TIniFile(ServerPath + Global_Merovan_Ini); }
+std::string SystemIniName() {
+  return ServerPath + Global_Merovan_Ini;
+}
+
+ini::TIniFile OpenSystemIni() {
+  return ini::TIniFile(SystemIniName());
+}
 
 template <typename Text, typename View>
 void FillGrid(View items, const std::vector<Text>& list, int column, int row,
@@ -61,15 +67,19 @@ void LoadStringListFromIni(std::string_view section, TStringList& list) {
 }
 
 std::string GetIniSeq(std::string_view section, std::string_view key) {
-  ini::TIniFile ini = OpenSystemIni();
-  if (modules::MV_SameText(section, "TDEC")) {
-    int64_t next = int64_t{ini.ReadInteger(section, key, 1)} + 1;
-    std::string result = FillStr(PadL(mod36(next), 4), ' ', '0');
-    ini.WriteString(section, key, std::to_string(next));
-    return result;
+  if (!modules::MV_SameText(section, "TDEC")) {
+    if (key.empty()) return "ERRORINI";
+    return OpenSystemIni().ReadString(section, key, "ERRORINI");
   }
-  if (key.empty()) return "ERRORINI";
-  return ini.ReadString(section, key, "ERRORINI");
+  // Read, count and write back as one step under the file's write lock, so that no other
+  // client of the installation reads the counter in between.
+  std::string issued;
+  ini::ChangeIniFile(SystemIniName(), [&](ini::TIniFile& ini) {
+    const int64_t next = int64_t{ini.ReadInteger(section, key, 1)} + 1;
+    issued = FillStr(PadL(mod36(next), 4), ' ', '0');
+    ini.WriteString(section, key, std::to_string(next));
+  });
+  return issued;
 }
 
 void GetIniGrd(std::string_view items, const TStringList& list, int column, int row,

@@ -24,8 +24,9 @@ std::unique_ptr<TStringList> StringListNames(const TStringList& list);
 
 // The integer of [section] key in the system configuration file; 0 when missing or not a number.
 int32_t GetIniIntegerValue(std::string_view section, std::string_view key);
-// Writes the integer to [section] key of the system configuration file (throws
-// ini::EIniFileException when the file cannot be written).
+// Writes the integer to [section] key of the system configuration file under its write lock,
+// keeping what other writers wrote meanwhile (throws ini::EIniFileException when the file cannot
+// be written or the lock was not given up within ini::kWriteLockTimeout).
 void SetIniIntegerValue(std::string_view section, std::string_view key, int32_t value);
 // `list` receives all lines of [section] of the system configuration file as tuples.
 void LoadStringListFromIni(std::string_view section, TStringList& list);
@@ -37,7 +38,10 @@ void LoadStringListFromIni(std::string_view section, TStringList& list);
 //    1679615 - never cut);
 //  - otherwise an empty key gives "ERRORINI", and any other key its text, "ERRORINI" when it is
 //    missing.
-// Two processes issuing numbers at the same moment can receive the same number.
+// The counter is read, counted and written back under the file's write lock (waiting up to
+// ini::kWriteLockTimeout for another writer; ini::EIniFileException after that or when the file
+// cannot be written), so any number of processes sharing the installation receive distinct
+// numbers without gaps, each process's in rising order.
 std::string GetIniSeq(std::string_view section, std::string_view key);
 
 // A grid whose cells can be set: the part of a string grid GetIniGrd needs.

@@ -12,6 +12,7 @@
 #include "platform/ini/ini_encoding.h"
 #include "platform/ini/ini_lead_bytes.h"
 #include "platform/ini/ini_numbers.h"
+#include "platform/ini/ini_write_lock.h"
 #include "platform/system/machine.h"
 
 namespace mv::ini {
@@ -60,6 +61,16 @@ std::basic_string_view<CharT> AsRead(const TIniDocument<CharT>& doc,
   return detail::CutAt(value, kMaxValueLength, doc.Lead());
 }
 
+// The document of a file's bytes (the byte-order mark tells the encoding).
+TDocument Parse(std::string bytes, TIniEncoding encoding, int codePage) {
+  ++parseCount;
+  bytes.erase(0, detail::ByteOrderMark(encoding).size());
+  if (encoding == TIniEncoding::kUtf16Le) {
+    return TIniDocument<char16_t>(detail::Utf16FromLittleEndian(bytes), nullptr);
+  }
+  return TIniDocument<char>(std::move(bytes), detail::LeadBytesOf(codePage));
+}
+
 }  // namespace
 
 struct TIniFile::Impl {
@@ -69,14 +80,27 @@ struct TIniFile::Impl {
   TIniEncoding encoding = TIniEncoding::kAnsi;
   // The file is there but could not be read: writing our (empty) lines would wipe it.
   bool unreadable = false;
-  TDocument document;
+  // The file's bytes as the document was made from them (read or written); empty for a missing
+  // file.
+  std::string bytes;
+  TDocument document{TIniDocument<char>(std::string(), nullptr)};
+  // Made by ChangeIniFile, which holds the write lock for the object's whole life.
+  bool underLock = false;
 
-  Impl(std::string name, int page, TIniEncoding enc, bool notRead, TDocument doc)
-      : fileName(std::move(name)),
-        codePage(page),
-        encoding(enc),
-        unreadable(notRead),
-        document(std::move(doc)) {}
+  Impl(std::string name, int page) : fileName(std::move(name)), codePage(page) { Load(); }
+
+  // Reads the file and parses it, unless it still holds the bytes the document was made from.
+  void Load() {
+    std::optional<std::string> read = files::ReadWholeFile(fileName);
+    unreadable = !read && files::FileExists(fileName);
+    if (unreadable) return;  // the writers refuse; the reads keep what they had
+    std::string now = std::move(read).value_or(std::string());
+    if (now == bytes && parsed) return;
+    encoding = detail::DetectEncoding(now);
+    document = Parse(now, encoding, codePage);
+    bytes = std::move(now);
+    parsed = true;
+  }
 
   // The file's bytes for `text`, in the encoding the file had.
   std::string Bytes(std::string_view text) const {
@@ -86,38 +110,40 @@ struct TIniFile::Impl {
     return std::string(detail::ByteOrderMark(encoding)) + detail::LittleEndianFromUtf16(text);
   }
 
-  // Replaces the file with `text`; once it holds it, the object reads the new text. A failed
-  // write leaves the object as it was.
+  // Applies `edit` (document -> the text the file is to hold, or nothing when there is nothing to
+  // change) to the file as it is now, under the write lock, and replaces the file with its text.
+  template <typename Edit>
+  void Write(Edit edit) {
+    std::optional<detail::TIniWriteLock> lock;
+    if (!underLock) lock.emplace(fileName);
+    Load();
+    std::visit([&](auto& doc) { Store(doc, edit(doc)); }, document);
+  }
+
+  // Replaces the file with `text`; once it holds it, the object reads the new text.
   template <typename CharT>
   void Store(TIniDocument<CharT>& doc, std::optional<std::basic_string<CharT>> text) {
     if (!text) return;
     if (unreadable) throw EIniFileException("Unable to read " + fileName + ", not written");
+    std::string written = Bytes(*text);
     try {
-      files::ReplaceFileAtomically(fileName, Bytes(*text));
+      files::ReplaceFileAtomically(fileName, written);
     } catch (const files::EFileError& error) {
       throw EIniFileException(error.what());
     }
     doc = TIniDocument<CharT>(std::move(*text), doc.Lead());
+    bytes = std::move(written);
   }
+
+ private:
+  bool parsed = false;
 };
 
 TIniFile::TIniFile(const std::string& fileName) {
-  std::string path = FullFileName(fileName);
   int codePage = codepage::SystemCodePage();
   // A code page no converter serves would make every UTF-16 look-up fail; read as Western then.
   if (codepage::ConverterName(codePage).empty()) codePage = codepage::kWestern;
-  std::optional<std::string> read = files::ReadWholeFile(path);
-  bool unreadable = !read && files::FileExists(path);
-  std::string bytes = std::move(read).value_or(std::string());
-  ++parseCount;
-  TIniEncoding encoding = detail::DetectEncoding(bytes);
-  bytes.erase(0, detail::ByteOrderMark(encoding).size());
-  TDocument document =
-      encoding == TIniEncoding::kUtf16Le
-          ? TDocument(TIniDocument<char16_t>(detail::Utf16FromLittleEndian(bytes), nullptr))
-          : TDocument(TIniDocument<char>(std::move(bytes), detail::LeadBytesOf(codePage)));
-  impl_ =
-      std::make_unique<Impl>(std::move(path), codePage, encoding, unreadable, std::move(document));
+  impl_ = std::make_unique<Impl>(FullFileName(fileName), codePage);
 }
 
 TIniFile::~TIniFile() = default;
@@ -214,15 +240,12 @@ bool TIniFile::ValueExists(std::string_view section, std::string_view key) const
 }
 
 void TIniFile::WriteString(std::string_view section, std::string_view key, std::string_view value) {
-  std::visit(
-      [&](auto& doc) {
-        using CharT = typename std::decay_t<decltype(doc)>::Char;
-        int page = impl_->codePage;
-        impl_->Store(
-            doc, std::optional(doc.WithValue(Native<CharT>(section, page), Native<CharT>(key, page),
-                                             Native<CharT>(value, page))));
-      },
-      impl_->document);
+  impl_->Write([&](const auto& doc) {
+    using CharT = typename std::decay_t<decltype(doc)>::Char;
+    int page = impl_->codePage;
+    return std::optional(doc.WithValue(Native<CharT>(section, page), Native<CharT>(key, page),
+                                       Native<CharT>(value, page)));
+  });
 }
 
 void TIniFile::WriteInteger(std::string_view section, std::string_view key, int32_t value) {
@@ -234,26 +257,29 @@ void TIniFile::WriteBool(std::string_view section, std::string_view key, bool va
 }
 
 void TIniFile::DeleteKey(std::string_view section, std::string_view key) {
-  std::visit(
-      [&](auto& doc) {
-        using CharT = typename std::decay_t<decltype(doc)>::Char;
-        int page = impl_->codePage;
-        impl_->Store(doc, doc.WithoutKey(Native<CharT>(section, page), Native<CharT>(key, page)));
-      },
-      impl_->document);
+  impl_->Write([&](const auto& doc) {
+    using CharT = typename std::decay_t<decltype(doc)>::Char;
+    int page = impl_->codePage;
+    return doc.WithoutKey(Native<CharT>(section, page), Native<CharT>(key, page));
+  });
 }
 
 void TIniFile::EraseSection(std::string_view section) {
-  std::visit(
-      [&](auto& doc) {
-        using CharT = typename std::decay_t<decltype(doc)>::Char;
-        impl_->Store(doc, doc.WithoutSection(Native<CharT>(section, impl_->codePage)));
-      },
-      impl_->document);
+  impl_->Write([&](const auto& doc) {
+    using CharT = typename std::decay_t<decltype(doc)>::Char;
+    return doc.WithoutSection(Native<CharT>(section, impl_->codePage));
+  });
 }
 
 uint64_t TIniFile::ParseCount() {
   return parseCount.load();
+}
+
+void ChangeIniFile(const std::string& fileName, const std::function<void(TIniFile&)>& change) {
+  const detail::TIniWriteLock lock(FullFileName(fileName));
+  TIniFile ini(fileName);
+  ini.impl_->underLock = true;
+  change(ini);
 }
 
 }  // namespace mv::ini

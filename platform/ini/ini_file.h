@@ -13,13 +13,18 @@
 //    page (a UTF-8 BOM is skipped);
 //  - a missing file is an empty file; a malformed line never throws.
 // The file is parsed once, when the object is made; every read answers from memory through a
-// case-insensitive hash index. A write edits the object's lines in place (keeping comments, odd
-// lines and their order), replaces the file atomically, with CR LF line ends, in the encoding the
-// file had (UTF-16LE with its mark; otherwise the bytes as they were, a UTF-8 mark kept), and then
-// reads from what it wrote. Lines another process wrote after the object was made are not merged.
+// case-insensitive hash index. A write takes the file's write lock (the lock file name + ".lck"
+// beside it, shared by every process that writes the file), reads the file again when another
+// writer changed it since the object last read or wrote it, applies only this write to that
+// text, keeping every other line, comment and their order, replaces the file atomically, with
+// CR LF line ends, in the encoding the file had (UTF-16LE with its mark; otherwise the bytes as
+// they were, a UTF-8 mark kept), and gives up the lock. So concurrent writers of different keys
+// keep each other's changes, and the object reads what it wrote (with the other writers' lines).
 #pragma once
 
+#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -34,6 +39,10 @@ class EIniFileException : public files::EFileError {
  public:
   using files::EFileError::EFileError;
 };
+
+// Longest wait of a writer for the write lock of a file that another writer holds; a writer
+// that waited this long throws EIniFileException.
+inline constexpr std::chrono::seconds kWriteLockTimeout{10};
 
 // Longest value ReadString returns, in characters.
 inline constexpr size_t kMaxValueLength = 2047;
@@ -84,9 +93,10 @@ class TIniFile {
   // True when ReadString finds `key` in `section`.
   bool ValueExists(std::string_view section, std::string_view key) const;
 
-  // Writers: change the lines in memory and replace the file at once; a missing file is made.
-  // Throw EIniFileException, naming the file, when it cannot be written (a missing folder among
-  // the causes); the object then stays as it was.
+  // Writers: under the file's write lock, apply the change to the file as it is now and replace
+  // it at once; a missing file is made. Throw EIniFileException, naming the file, when it cannot
+  // be written (a missing folder among the causes, or the lock not given up by another writer
+  // within kWriteLockTimeout); the file then stays as it was.
   // An existing key gets "name=value" in its own line, keeping the file's spelling of the name; a
   // new key goes after the last key of the first section of that name, a new section ("[name]"
   // and the key) at the end. Names lose surrounding spaces; the value is written as given (no
@@ -103,12 +113,23 @@ class TIniFile {
   void EraseSection(std::string_view section);
 
   // How many times files were parsed by TIniFile objects in this process: once per object made,
-  // whatever it reads or writes afterwards (for benchmarks).
+  // and once more for each write that found the file changed by another writer (for
+  // benchmarks).
   static uint64_t ParseCount();
 
  private:
+  friend void ChangeIniFile(const std::string& fileName,
+                            const std::function<void(TIniFile&)>& change);
   struct Impl;
   std::unique_ptr<Impl> impl_;
 };
+
+// Reads and changes the file `fileName` (named as for TIniFile) as one step that no other writer,
+// in this process or another, comes between: takes the file's write lock (waiting up to
+// kWriteLockTimeout), opens the file, runs `change` on it and gives up the lock, also when
+// `change` throws. The writes of `change` do not take the lock again; another TIniFile of the same
+// file must not write inside `change` (it would wait for the lock and then throw). Throws
+// EIniFileException when the lock cannot be taken, and whatever `change` throws.
+void ChangeIniFile(const std::string& fileName, const std::function<void(TIniFile&)>& change);
 
 }  // namespace mv::ini

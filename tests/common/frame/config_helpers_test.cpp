@@ -3,9 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 #include "common/frame/shared_state.h"
+#include "tests/common/processes/helper_process.h"
 #include "tests/support/installation.h"
 
 namespace mv {
@@ -50,6 +52,39 @@ TEST_F(ConfigHelpersTest, IntegerValuesAndSectionLists) {
   TStringList list{"old"};
   LoadStringListFromIni("N", list);
   EXPECT_EQ(list, (TStringList{"A=12", "B=x", "C=-4"}));
+}
+
+// Four processes issue 60 numbers each from one counter: each number once, none skipped, and each
+// process's numbers rising.
+TEST_F(ConfigHelpersTest, RunningNumbersOfFourProcessesAreDistinctAndGapFree) {
+  install.WriteSystemIni("[TDEC]\nSeq=34\n");
+  const std::vector<std::string> issued =
+      test::RunFourTogether(install.Dir(), PROCESS_HELPER " seq " + install.ServerFolder());
+  ASSERT_EQ(issued.size(), 4u * 60);
+  for (size_t first = 0; first < issued.size(); first += 60) {
+    EXPECT_TRUE(std::is_sorted(issued.begin() + first, issued.begin() + first + 60)) << first;
+  }
+  std::vector<std::string> all = issued;
+  std::sort(all.begin(), all.end());
+  EXPECT_EQ(all.front(), "000Z");  // 35
+  EXPECT_EQ(all.back(), "007M");   // 34 + 240 = 274
+  EXPECT_EQ(std::adjacent_find(all.begin(), all.end()), all.end());
+  EXPECT_EQ(GetIniIntegerValue("TDEC", "Seq"), 274);
+}
+
+// Four processes count their own key of one file up 60 times: no write loses another's.
+TEST_F(ConfigHelpersTest, WritersOfOtherKeysKeepEachOthersChanges) {
+  install.WriteSystemIni("; counters\n[Counts]\n");
+  std::vector<std::unique_ptr<test::HelperProcess>> writers;
+  for (const char* key : {"A", "B", "C", "D"}) {
+    writers.push_back(std::make_unique<test::HelperProcess>(PROCESS_HELPER " count " +
+                                                            install.ServerFolder() + " " + key +
+                                                            " " + install.Dir().File("go")));
+  }
+  install.Dir().Write("go", "");
+  for (auto& writer : writers) EXPECT_EQ(writer->Wait(), 0);
+  for (const char* key : {"A", "B", "C", "D"}) EXPECT_EQ(GetIniIntegerValue("Counts", key), 60);
+  EXPECT_EQ(Ini().substr(0, 12), "; counters\r\n");
 }
 
 TEST(TupleTest, NamesValuesAndLists) {

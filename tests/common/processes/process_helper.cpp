@@ -3,12 +3,17 @@
 //   cycle BASE RESOURCE LOG GO   once the file GO exists, takes and gives up the lock 200 times,
 //                                appending "+pid" and "-pid" lines to LOG around each hold
 //   temp FOLDER GO               once GO exists, makes 50 ".tmp" files, printing "result name"
+//   seq SERVER GO                once GO exists, issues 60 running numbers of [TDEC] Seq of
+//                                SERVER/SEDIFSYS.INI, printing each
+//   count SERVER KEY GO          once GO exists, counts [Counts] KEY of SERVER/SEDIFSYS.INI up
+//                                60 times, one read and one write each
 #include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <string>
 
+#include "common/frame/config_helpers.h"
 #include "common/frame/shared_state.h"
 #include "common/processes/concurrent_right.h"
 #include "common/processes/temporary_file.h"
@@ -25,7 +30,8 @@ void Append(int log, char sign) {
 int main(int argc, char** argv) {
   const std::string command = argc > 1 ? argv[1] : "";
   if (argc < 4) return 2;
-  mv::BasePath = std::string(argv[2]) + "/";
+  mv::BasePath = mv::ServerPath = std::string(argv[2]) + "/";
+  mv::Global_Merovan_Ini = "SEDIFSYS.INI";
   int32_t handle = -1;
   if (command == "hold") {
     const bool held = mv::SetConcurrentRight(argv[3], handle);
@@ -39,6 +45,11 @@ int main(int argc, char** argv) {
     std::string name;
     const int32_t result = mv::GetTemporaryFile(argv[2], ".tmp", name);
     std::printf("%d %s\n", result, name.c_str());
+  }
+  for (int i = 0; command == "seq" && i < 60; ++i)
+    std::printf("%s\n", mv::GetIniSeq("TDEC", "Seq").c_str());
+  for (int i = 0; command == "count" && i < 60; ++i) {
+    mv::SetIniIntegerValue("Counts", argv[3], mv::GetIniIntegerValue("Counts", argv[3]) + 1);
   }
   const int log = command == "cycle" ? ::open(argv[4], O_WRONLY | O_CREAT | O_APPEND, 0644) : -1;
   for (int held = 0; log >= 0 && held < 200;) {

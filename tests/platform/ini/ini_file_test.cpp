@@ -4,11 +4,15 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <chrono>
 #include <climits>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
 
+#include "platform/files/lock_file.h"
 #include "tests/support/temp_dir.h"
 
 namespace mv::ini {
@@ -208,6 +212,49 @@ TEST_F(IniTest, WriteEditsInPlaceAndKeepsPermissions) {
   struct stat st {};
   ASSERT_EQ(::stat(path.c_str(), &st), 0);
   EXPECT_EQ(st.st_mode & 07777, 0640u);  // the rewritten file keeps its permissions
+}
+
+// Two objects of one file, as two processes have: each write applies only its own change to what
+// the file holds at that moment, and the file is read again only when someone else changed it.
+TEST_F(IniTest, WriteKeepsWhatOtherWritersWroteSinceTheRead) {
+  std::string path = Write("[S]\r\na=0\r\n[T]\r\nt=1\r\n");
+  TIniFile first(path), second(path);
+  first.WriteString("S", "b", "1");
+  second.WriteString("S", "c", "2");
+  first.DeleteKey("S", "a");
+  const uint64_t parses = TIniFile::ParseCount();
+  second.EraseSection("T");
+  EXPECT_EQ(TIniFile::ParseCount() - parses, 1u);  // second finds first's delete
+  first.WriteString("S", "d", "3");
+  EXPECT_EQ(TIniFile::ParseCount() - parses, 2u);
+  first.WriteString("S", "e", "4");
+  EXPECT_EQ(TIniFile::ParseCount() - parses, 2u);  // nobody else wrote in between
+  EXPECT_EQ(dir_.Read("t.ini"), "[S]\r\nb=1\r\nc=2\r\nd=3\r\ne=4\r\n");
+  EXPECT_EQ(first.ReadString("S", "c", "-"), "2");
+  EXPECT_EQ(second.ReadString("S", "a", "-"), "-");  // as the file was at its last write
+}
+
+// A writer waits while another holds the file's write lock, and writes once it is given up.
+TEST_F(IniTest, WriteWaitsForTheWriteLock) {
+  std::string path = Write("[S]\r\n");
+  const int32_t holder = files::LockFileExclusive(path + ".lck");
+  ASSERT_GT(holder, 0);
+  std::atomic<bool> givenUp{false};
+  std::thread release([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    givenUp = true;
+    files::UnlockFile(holder);
+  });
+  TIniFile(path).WriteString("S", "k", "v");
+  EXPECT_TRUE(givenUp);
+  release.join();
+  EXPECT_EQ(dir_.Read("t.ini"), "[S]\r\nk=v\r\n");
+  // A read, count and write of one step: its own writes do not wait for its lock.
+  ChangeIniFile(path, [](TIniFile& ini) {
+    ini.WriteInteger("S", "n", ini.ReadInteger("S", "n", 0) + 1);
+    ini.WriteInteger("S", "n", ini.ReadInteger("S", "n", 0) + 1);
+  });
+  EXPECT_EQ(TIniFile(path).ReadInteger("S", "n", 0), 2);
 }
 
 TEST_F(IniTest, WriteTurnsEveryLineEndIntoCrLf) {
