@@ -12,7 +12,7 @@
 #include "platform/ini/ini_encoding.h"
 #include "platform/ini/ini_lead_bytes.h"
 #include "platform/ini/ini_numbers.h"
-#include "platform/ini/ini_write_lock.h"
+#include "platform/ini/ini_write_lock_p.h"
 #include "platform/system/machine.h"
 
 namespace mv::ini {

@@ -1,4 +1,4 @@
-#include "platform/ini/ini_write_lock.h"
+#include "platform/ini/ini_write_lock_p.h"
 
 #include "platform/files/lock_file.h"
 #include "platform/ini/ini_file.h"
