@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -78,6 +79,7 @@ class TInbox {
     char folder[] = "/tmp/mv_wildcard_bench_XXXXXX";
     if (::mkdtemp(folder) == nullptr) std::abort();
     folder_ = folder;
+    std::ofstream(folder_ / "inbox.db").close();  // an empty file is an empty database
     mv::db::OpenConnection("DBMAIN", "sqlite:" + (folder_ / "inbox.db").string());
     Exec(u"create table Inbox (MsgRef text collate nocase, Sender text)");
     Exec(

@@ -1,5 +1,7 @@
 #include "platform/db/connections.h"
 
+#include <QtCore/QFileInfo>
+#include <QtCore/QUrl>
 #include <QtCore/QVariant>
 #include <QtSql/QSqlDriver>
 #include <QtSql/QSqlError>
@@ -33,10 +35,25 @@ bool StartsWith(std::string_view s, std::string_view prefix) {
   return s.substr(0, prefix.size()) == prefix;
 }
 
+// The SQLite file `path` as a URI that opens it for reading and writing but never makes it: a
+// missing file is an error rather than a new empty database.
+QString ExistingSqliteFile(const QString& path) {
+  if (path == ":memory:") return path;
+  if (path.isEmpty() || !QFileInfo::exists(path)) {
+    throw EDatabaseError("The database file \"" + path.toStdString() + "\" does not exist");
+  }
+  return "file:" + QString::fromLatin1(QUrl::toPercentEncoding(path, "/")) + "?mode=rw";
+}
+
 void OpenQt(const TConnectionInfo& info, std::string_view target) {
   const QString driver = info.Backend == TBackend::SQLite ? "QSQLITE" : "QODBC";
+  QString name = QString::fromUtf8(target.data(), static_cast<qsizetype>(target.size()));
   QSqlDatabase db = QSqlDatabase::addDatabase(driver, QtName(info.Name));
-  db.setDatabaseName(QString::fromUtf8(target.data(), static_cast<qsizetype>(target.size())));
+  if (info.Backend == TBackend::SQLite) {
+    name = ExistingSqliteFile(name);
+    db.setConnectOptions("QSQLITE_OPEN_URI");
+  }
+  db.setDatabaseName(name);
   if (!db.isValid())
     throw EDatabaseError("The database driver " + driver.toStdString() + " is missing");
   if (!db.open()) throw EDatabaseError(db.lastError().text().toStdString());

@@ -1,5 +1,5 @@
-// The process's named database connections. A connection string is "sqlite:PATH" (a SQLite file,
-// made when missing) or "odbc:<ODBC connection string>" (a DSN or a driver string such as
+// The process's named database connections. A connection string is "sqlite:PATH" (an existing
+// SQLite file, PATH in UTF-8; ":memory:" for a database in memory) or "odbc:<ODBC connection string>" (a DSN or a driver string such as
 // "Driver={ODBC Driver 18 for SQL Server};Server=...;Database=...;UID=...;PWD=...").
 // Connections are opened and used on one thread, the user-interface thread.
 #pragma once
@@ -23,7 +23,7 @@ struct TConnectionInfo {
 
 // Opens the connection `name` (replacing one of that name) from `connectionString`; raises
 // EDatabaseError with the driver's message when the string has no known prefix or the database
-// cannot be opened.
+// cannot be opened, and one naming the file when a SQLite file does not exist (none is made).
 void OpenConnection(std::string_view name, std::string_view connectionString);
 
 // Closes the connection `name`; nothing happens when there is none. Datasets still open on it

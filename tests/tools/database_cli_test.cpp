@@ -2,6 +2,7 @@
 // database: the database chosen by --db or MV_DBMAIN, the results printed, and failures.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -51,7 +52,11 @@ TEST_F(DatabaseCommands, WorkdaysRejectsBadInput) {
   }
   const RunResult r = Mvcommon({"workdays", "2024-03-01", "2024-01-01"});  // MV_DBMAIN fails
   EXPECT_EQ(r.exitCode, 1);
-  EXPECT_NE(r.err.find("unable to open database"), std::string::npos) << r.err;
+  EXPECT_NE(r.err.find("missing/none.db"), std::string::npos) << r.err;
+  const std::string missing = dir_.File("none.db");
+  EXPECT_EQ(
+      Mvcommon({"workdays", "--db", "sqlite:" + missing, "2024-03-01", "2024-01-01"}).exitCode, 1);
+  EXPECT_FALSE(std::filesystem::exists(missing));
 }
 
 TEST_F(DatabaseCommands, LogAppendsARowAsTheDemoUserOrFails) {

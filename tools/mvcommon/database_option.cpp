@@ -11,8 +11,7 @@ namespace mv::cli {
 std::string MainConnectionString(const ParsedArgs& args) {
   if (const auto option = args.Option(kDatabaseOption); option && !option->empty()) return *option;
   if (const char* env = std::getenv("MV_DBMAIN"); env != nullptr && *env != '\0') return env;
-  // SQLite would make an empty file in its place, which the build would then take for a
-  // database already built.
+  // Says which build target makes the file, which the connection's own error cannot.
   if (!std::filesystem::exists(MV_DEMO_DATABASE)) {
     throw db::EDatabaseError("the demo database " MV_DEMO_DATABASE
                              " has not been built (build target demo_database)");

@@ -9,6 +9,7 @@ constexpr const char* kOdbcDriver = "/usr/lib/x86_64-linux-gnu/odbc/libsqlite3od
 }
 
 SqliteBackend::SqliteBackend(const TempDir& dir) {
+  dir.Write("main.db", "");  // an empty file is an empty database
   db::OpenConnection("DBMAIN", "sqlite:" + dir.File("main.db"));
 }
 
