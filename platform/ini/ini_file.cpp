@@ -159,7 +159,8 @@ std::string TIniFile::ReadString(std::string_view section, std::string_view key,
         using CharT = typename std::decay_t<decltype(doc)>::Char;
         int page = impl_->codePage;
         auto value = doc.Value(Native<CharT>(section, page), Native<CharT>(key, page));
-        return value ? Narrow<CharT>(AsRead(doc, *value), page) : std::string(defaultValue);
+        return value ? Narrow<CharT>(AsRead(doc, *value), page)
+                     : std::string(detail::TrimRightSpaces(defaultValue));
       },
       impl_->document);
 }

@@ -62,11 +62,11 @@ class TIniFile {
   // The path the object reads and writes (the folder's spelling of the name when one matched).
   const std::string& FileName() const;
 
-  // The value of `key` in `section` (outer quotes removed), or `defaultValue` as given when the
-  // section or key is missing. Only the first section of a name is searched, and the first key of
-  // a name in it is found. Section and key names lose surrounding spaces (not tabs). The value is
-  // cut to kMaxValueLength characters: bytes of a file in the system code page (never ending
-  // inside a double-byte character), UTF-16 units of a UTF-16 file (then converted).
+  // The value of `key` in `section` (outer quotes removed), or `defaultValue` without its trailing
+  // spaces when the section or key is missing. Only the first section of a name is searched, and
+  // the first key of a name in it is found. Section and key names lose surrounding spaces (not
+  // tabs). The value is cut to kMaxValueLength characters: bytes of a file in the system code page
+  // (never ending inside a double-byte character), UTF-16 units of a UTF-16 file (then converted).
   std::string ReadString(std::string_view section, std::string_view key,
                          std::string_view defaultValue) const;
   // Optional sign, then decimal that fits a signed 32-bit integer, or hexadecimal behind "0x",

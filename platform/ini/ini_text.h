@@ -15,9 +15,11 @@ namespace mv::ini::detail {
 // lead[b] is true when byte b starts a two-byte character of the system code page (Big5, GBK ...).
 using TLeadBytes = std::array<bool, 256>;
 
+// The blanks of a file line: space, tab, vertical tab and form feed (the C library's white space
+// without the line ends, which never reach a line).
 template <typename CharT>
 constexpr bool IsBlank(CharT c) {
-  return c == CharT(' ') || c == CharT('\t');
+  return c == CharT(' ') || c == CharT('\t') || c == CharT('\v') || c == CharT('\f');
 }
 
 template <typename CharT>
@@ -46,6 +48,15 @@ std::basic_string_view<CharT> TrimSpaces(std::basic_string_view<CharT> s) {
   while (b < e && s[b] == CharT(' ')) ++b;
   while (e > b && s[e - 1] == CharT(' ')) --e;
   return s.substr(b, e - b);
+}
+
+// A default handed to a read loses its trailing spaces, as the profile API copies it (a space is
+// below 0x40, so it is never the trail byte of a double-byte character).
+template <typename CharT>
+std::basic_string_view<CharT> TrimRightSpaces(std::basic_string_view<CharT> s) {
+  size_t n = s.size();
+  while (n > 0 && s[n - 1] == CharT(' ')) --n;
+  return s.substr(0, n);
 }
 
 // Code units of the character that starts at s[i]. A lead byte takes the byte after it along when

@@ -46,7 +46,8 @@ std::string Utf16File(std::u16string_view text) {
 TEST_F(IniTest, LookupRules) {
   TIniFile ini(
       Write("before=unreachable\n[Main]\n  Key =  Value x  \n\tTabbed\t=\tv\t\n=empty name\n"
-            "Path=a=b;c#d]\n[ Spaced ]\nx=1\n[]\ne=2\n[Cut]k=lost\n[Open\no=3\n"));
+            "Path=a=b;c#d]\n\v;hidden=1\n\fFed\v=\f v f \v\n[ Spaced ]\nx=1\n[]\ne=2\n"
+            "[Cut]k=lost\n\v\f[Open\no=3\n"));
   struct Case {
     const char* section;
     const char* key;
@@ -59,6 +60,8 @@ TEST_F(IniTest, LookupRules) {
       {"Main", "tabbed", "v"},
       {"Main", "", "empty name"},
       {"Main", "path", "a=b;c#d]"},
+      {"Main", ";hidden", "-"},
+      {"Main", "fed", "v f"},
       {"spaced", "x", "1"},
       {"", "e", "2"},
       {"Cut", "k", "-"},
@@ -70,8 +73,10 @@ TEST_F(IniTest, LookupRules) {
     EXPECT_EQ(ini.ReadString(c.section, c.key, "-"), c.expected) << c.section << "/" << c.key;
   }
   EXPECT_EQ(ini.ReadSections(), (Strings{"Main", "Spaced", "", "Cut", "Open"}));
-  EXPECT_EQ(ini.ReadSection("MAIN"), (Strings{"Key", "Tabbed", "", "Path"}));
-  EXPECT_EQ(TIniFile(dir_.File("none.ini")).ReadString("Main", "Key", "d"), "d");
+  EXPECT_EQ(ini.ReadSection("MAIN"), (Strings{"Key", "Tabbed", "", "Path", "Fed"}));
+  // A default loses its trailing spaces only; a found value is never the default.
+  EXPECT_EQ(TIniFile(dir_.File("none.ini")).ReadString("Main", "Key", " d \t  "), " d \t");
+  EXPECT_EQ(ini.ReadString("Main", "Missing", "   "), "");
 }
 
 TEST_F(IniTest, OuterQuotePairIsRemoved) {
