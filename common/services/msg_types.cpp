@@ -13,9 +13,11 @@ namespace {
 
 constexpr int kModeWithParties = 2;
 
-// The day number of a key's first field: a number in "." notation, blanks around allowed.
+// The day number of a key's first field: a number in "." notation with an optional sign ("+" as
+// well as "-", as the client's conversion reads it), blanks around allowed.
 double KeyDateTime(const std::string& field) {
-  const std::string_view text = TrimControls(field);
+  std::string_view text = TrimControls(field);
+  if (text.starts_with('+') && !text.substr(1).starts_with('-')) text.remove_prefix(1);
   double value = 0;
   const char* end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, value);

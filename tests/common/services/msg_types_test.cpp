@@ -76,9 +76,18 @@ TEST_F(DemoDatabaseTest, StoredMessagesMatchWithinATenthOfASecond) {
       "'me'), ('R', 1 + 0.5 / 864000, 'S', 'B', 'me'), ('O''NEIL', 9, 'a''b', 'C', 'me')");
   EXPECT_EQ(TypeOf(1 + 0.4 / 864000, "R", "S", 2), "A\x01S\x01me");  // the first in the window
   EXPECT_EQ(TypeOf(9, "O'NEIL", "a'b"), "C");                        // quotes are values, not SQL
-  std::string result = "old";
-  EXPECT_THROW(GetMsgType("Inbox", "today\x01R\x01S", 1, result), EConvertError);
-  EXPECT_EQ(result, "");
+  std::string result;
+  GetMsgType("Inbox",
+             "+9\x01O'NEIL\x01"
+             "a'b",
+             1, result);  // a plus sign as the client reads it
+  EXPECT_EQ(result, "C");
+  for (const char* day : {"today", "+-9", "++9", "+"}) {
+    result = "old";
+    EXPECT_THROW(GetMsgType("Inbox", std::string(day) + "\x01R\x01S", 1, result), EConvertError)
+        << day;
+    EXPECT_EQ(result, "");
+  }
 }
 
 TEST_F(DemoDatabaseTest, TypeListsFollowTheLanguage) {
