@@ -25,7 +25,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   std::string_view narrow(reinterpret_cast<const char*>(data + 1), size - 1);
 
   std::u16string wide = mv::codepage::ToWide(narrow, codePage);
-  mv::codepage::FromWide(wide, codePage);
+  // Best fit or not, no character takes more than four bytes of any code page.
+  if (mv::codepage::FromWide(wide, codePage).size() > 4 * wide.size()) __builtin_trap();
 
   // The same bytes as UTF-16 (unpaired surrogates included), the odd last byte dropped.
   std::u16string units(narrow.size() / 2, u'\0');

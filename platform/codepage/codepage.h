@@ -38,10 +38,13 @@ int UserCodePage();
 // Throws ECodePageError for an unknown code page.
 std::u16string ToWide(std::string_view text, int codePage);
 
-// Narrow text in `codePage` of wide text. Characters the code page cannot hold become "?";
-// default-ignorable ones it lacks (variation selectors, joiners) are dropped.
+// Narrow text in `codePage` of wide text, as the platform's conversion gives it: a character the
+// code page holds only as a best fit becomes that fit (with 950, "é" -> "e", "¥" -> A244,
+// "•" -> A145), a character without any row becomes "?", and default-ignorable ones it lacks
+// (variation selectors, joiners) are dropped. ICU's fallback mappings are the best-fit rows; for
+// 950 they agree with the platform's published best-fit table. Unpaired surrogates become "?".
 // Throws ECodePageError for an unknown code page.
-std::string FromWide(std::u16string_view text, int codePage);
+[[nodiscard]] std::string FromWide(std::u16string_view text, int codePage);
 
 // True when every character of `text` has an exact mapping to `codePage`, so that FromWide
 // substitutes or drops nothing and the result converts back to `text`; a conversion callback that

@@ -45,6 +45,9 @@ ConverterPtr OpenConverter(int codePage, ConverterUse use) {
   ConverterPtr conv(ucnv_open(name.c_str(), &status));
   Check(status, codePage);
   if (use == ConverterUse::kSubstitute) {
+    // The code page's best-fit rows, as the platform's wide-to-narrow conversion uses them: with
+    // 950, "é" becomes "e" and "¥" A244. Only a character without a row becomes "?".
+    ucnv_setFallback(conv.get(), true);
     ucnv_setSubstChars(conv.get(), "?", 1, &status);
   } else {
     ucnv_setFromUCallBack(conv.get(), StopAtAnyLoss, nullptr, nullptr, nullptr, &status);

@@ -7,8 +7,9 @@ struct UConverter;
 namespace mv::codepage {
 
 enum class ConverterUse {
-  kSubstitute,  // narrow -> wide gives U+FFFD, wide -> narrow gives "?" for what does not map
-  kStrict,      // wide -> narrow stops at the first character that does not map
+  kSubstitute,  // narrow -> wide gives U+FFFD for what does not map; wide -> narrow takes the
+                // code page's best-fit rows and gives "?" for a character without a row
+  kStrict,      // wide -> narrow stops at the first character without an exact mapping
 };
 
 // The calling thread's converter for `codePage` and `use`, opened on first use and kept until the

@@ -65,6 +65,19 @@ TEST(CodePageConversion, BadInputAndUnknownCodePages) {
   EXPECT_EQ(FromWide(ToWide(longText, kWestern), kWestern), longText);
 }
 
+// Wide to 950 takes the code page's best-fit rows, as the platform's own conversion does; the
+// expected bytes are those of the platform's published best-fit table for 950.
+TEST(CodePageConversion, WideToBig5UsesTheBestFitRows) {
+  EXPECT_EQ(FromWide(u"Café ¥100 •", kBig5),
+            "Cafe \xA2\x44"
+            "100 \xA1\x45");
+  EXPECT_EQ(FromWide(u"©®²¢£‾", kBig5), "cR2\xA2\x46\xA2\x47\xA1\xC3");
+  EXPECT_EQ(FromWide(u"½", kBig5), "?");  // no row at all
+  EXPECT_FALSE(IsMappable(u"é", kBig5));  // a best fit is no exact mapping
+  // Narrow to wide is untouched: A145 reads as U+2027, the character it stands for.
+  EXPECT_EQ(ToWide("\xA1\x45", kBig5), u"\u2027");
+}
+
 TEST(CodePageConversion, MappableOnlyWithoutSubstitution) {
   EXPECT_TRUE(IsMappable(u"報關資料 ABC ?", kBig5));
   EXPECT_TRUE(IsMappable(u"", kBig5));
