@@ -17,6 +17,7 @@ void ReleaseSharedState() {
   for (auto& table : BoxRec) table.clear();
   AryPkgInfo.clear();
   Advance = {};
+  UpgradeRecord = {};
   DefinedRecord = {};
   UserRecord = {};
   for (std::string* text :

@@ -11,6 +11,7 @@ std::string BasePath;
 
 TUserRecord UserRecord;
 TAdvance Advance;
+TUpgradeRecord UpgradeRecord;
 TDefinedRecord DefinedRecord;
 TDefinedRecord DetRecord;
 TColorRecord ColorRecord;

@@ -54,6 +54,11 @@ struct TAdvance {
   bool SupportTypeB = false;
 };
 
+// Upgrade settings of the installation. No key of the configuration files fills them, so the
+// record has no fields yet; it belongs to the shared state and is released with it, so that the
+// packages that refer to it find it.
+struct TUpgradeRecord {};
+
 // The user-defined reference fields of a service (common/services/user_fields.h): three
 // parallel lists, one line per field in field order (five once GetUserDefineFields has filled
 // them), narrow text in the system code page. Null until filled or created.
@@ -100,6 +105,7 @@ struct TCheckDupTDECSub {
 
 extern TUserRecord UserRecord;
 extern TAdvance Advance;
+extern TUpgradeRecord UpgradeRecord;
 // The user-defined fields of the declaration service; filled by the backup and restore start
 // (backup_startup.h).
 extern TDefinedRecord DefinedRecord;

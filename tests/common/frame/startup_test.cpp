@@ -270,6 +270,9 @@ TEST_F(StartupDeathTest, MissingServerFolderEndsTheProcessWithExitCodeZero) {
   sys::SetApplicationTitle("");
 }
 
+// The upgrade settings are shared state of their own type, though no key fills them yet.
+static_assert(std::is_same_v<decltype(UpgradeRecord), TUpgradeRecord>);
+
 TEST(LibraryTest, OnlyTheLastStopReleasesTheState) {
   ASSERT_EQ(LibraryStartCount(), 1);  // started when the library was loaded
   const uint32_t message = wm_eAdvertise;
