@@ -1,5 +1,6 @@
 #include "common/frame/advance_values.h"
 
+#include "modules/mv_str_case.h"
 #include "platform/files/paths.h"
 
 namespace mv {
@@ -10,11 +11,9 @@ constexpr size_t kRecipientLength = 35;
 }  // namespace
 
 std::string RecipientIdentity(std::string_view trimmed) {
-  std::string id(trimmed.substr(0, kRecipientLength));
-  for (char& c : id) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return id;
+  // Only English letters that are characters of their own: the second byte of a Big5 character
+  // may look like a letter and stays as it is.
+  return modules::_MV_ECharUpperCase(trimmed.substr(0, kRecipientLength));
 }
 
 std::string WithFinalDelimiter(std::string folder) {

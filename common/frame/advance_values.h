@@ -7,8 +7,9 @@
 
 namespace mv {
 
-// A recipient identity of [Receipient] already trimmed by the caller: upper-cased (English
-// letters) and cut to 35 characters.
+// A recipient identity of [Receipient] (narrow text in the user's code page) already trimmed by
+// the caller: cut to 35 bytes, then its English letters a-z upper-cased; the bytes of double-byte
+// characters stay as they are.
 std::string RecipientIdentity(std::string_view trimmed);
 
 // `folder` with one final separator; an empty folder becomes the separator alone.

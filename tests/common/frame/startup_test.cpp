@@ -72,10 +72,12 @@ TEST_F(StartupTest, MissingFileGivesEveryDefault) {
 }
 
 TEST_F(StartupTest, RecordsAndPathsAreShapedAsTheClientExpects) {
+  test::ScopedEnv big5("MV_CODEPAGE", "950");
   Load(
       "[System]\nVersion=4.5.6789012345678901234\n"
       "[Property]\nDateTime=$FF\nString=0x10\nOthers=x\n"
       "[Receipient]\nGovernment=  abcdefghijklmnopqrstuvwxyz0123456789abcd  \n"
+      "ECIC=hk\xA4\x61gov\n"
       "[Advance]\nEDIInPath=/edi/in\nEDIOutPath=/edi/out/\nUpgradePath=\nWarnTDEC=0\n"
       "SupportTypeB=1\n[AUTO_REFRESH]\nINBOX=1001\nSENTBOX=1001.30\n");
   EXPECT_EQ(Version, "4.5.6789012345678901");
@@ -83,6 +85,7 @@ TEST_F(StartupTest, RecordsAndPathsAreShapedAsTheClientExpects) {
   EXPECT_EQ(ColorRecord.String, 16);
   EXPECT_EQ(ColorRecord.Others, 0);
   EXPECT_EQ(Advance.Government, "ABCDEFGHIJKLMNOPQRSTUVWXYZ012345678");
+  EXPECT_EQ(Advance.ECIC, "HK\xA4\x61GOV");  // the second byte of Big5 兀 is no letter
   EXPECT_EQ(Advance.EDIInPath, "/edi/in/");
   EXPECT_EQ(Advance.EDIOutPath, "/edi/out/");
   EXPECT_EQ(Advance.UpgradePath, "");
