@@ -21,11 +21,13 @@ std::u16string _MV_ChangeCase(std::u16string_view s);
 std::string _MV_ECharUpperCase(std::string_view s);
 std::u16string _MV_ECharUpperCase(std::u16string_view s);
 
-// The text in lower / upper case by the Unicode rules (language-independent, full mapping: "ß"
-// gives "SS"), as wide text; narrow text is first read in the user's code page.
-std::u16string MV_WideLowerCase(std::string_view s);
-std::u16string MV_WideLowerCase(std::u16string_view s);
-std::u16string MV_WideUpperCase(std::string_view s);
-std::u16string MV_WideUpperCase(std::u16string_view s);
+// The text in lower / upper case by the Unicode rules (language-independent), as wide text;
+// narrow text is first read in the user's code page. Each UTF-16 unit maps to one unit by the
+// simple case mapping, as the platform's wide case mapping does: the result has the length of the
+// wide text, "ß" and "ﬁ" stay as they are, surrogates too.
+[[nodiscard]] std::u16string MV_WideLowerCase(std::string_view s);
+[[nodiscard]] std::u16string MV_WideLowerCase(std::u16string_view s);
+[[nodiscard]] std::u16string MV_WideUpperCase(std::string_view s);
+[[nodiscard]] std::u16string MV_WideUpperCase(std::u16string_view s);
 
 }  // namespace mv::modules

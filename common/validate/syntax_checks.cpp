@@ -29,10 +29,6 @@ bool IsEnglish(unsigned code) {
 const TCharSet kSyntaxSet =
     MakeCharSet(" 0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ!\"%&'()*+,-./:;<=>?\r\n");
 
-bool IsSurrogate(char16_t c) {
-  return c >= 0xD800 && c <= 0xDFFF;
-}
-
 // The character of wide `text` at `at`: both units of a surrogate pair, else the one unit.
 std::u16string CharacterAt(std::u16string_view text, size_t at) {
   const bool pair = text[at] >= 0xD800 && text[at] <= 0xDBFF && at + 1 < text.size() &&
@@ -48,31 +44,19 @@ std::u16string CharacterAt(std::u16string_view text, size_t at) {
   throw EAbort();
 }
 
-// The upper case of one UTF-16 unit; a unit whose upper case is not one unit stays as it is.
-char16_t UpperUnit(char16_t c) {
-  if (c < 0x80) return (c >= 'a' && c <= 'z') ? static_cast<char16_t>(c - 'a' + 'A') : c;
-  if (IsSurrogate(c)) return c;
-  const std::u16string upper = MV_WideUpperCase(std::u16string_view(&c, 1));
-  return upper.size() == 1 ? upper[0] : c;
-}
-
-char UpperByte(char c) {
-  return (c >= 'a' && c <= 'z') ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-// Whether one (upper-cased) value unit satisfies one mask unit.
+// Whether one (upper-cased) value unit satisfies one mask unit. The letter, digit and "O" rules
+// look at the low byte of the unit only, so U+4E41 passes "A" and U+3431 passes "9".
 bool FitsMask(unsigned value, unsigned mask, const TCharSet& others) {
-  const bool alpha = value < 256 && Alphas.test(value);
-  const bool digit = value < 256 && AllDigits.test(value);
+  const unsigned low = value & 0xFF;
   switch (mask) {
     case 'A':
-      return alpha;
+      return Alphas.test(low);
     case '9':
-      return digit;
+      return AllDigits.test(low);
     case 'X':
-      return alpha || digit;
+      return Alphas.test(low) || AllDigits.test(low);
     case 'O':
-      return others.test(value & 0xFF);
+      return others.test(low);
     case '*':
       return true;
     default:
@@ -80,15 +64,13 @@ bool FitsMask(unsigned value, unsigned mask, const TCharSet& others) {
   }
 }
 
-template <class Char, class Upper>
-bool FitsFormat(std::basic_string_view<Char> value, std::basic_string_view<Char> mask,
-                const TCharSet& others, Upper upper) {
-  if (!NotEmpty(value) || value.size() != mask.size()) return false;
+// `upper` is the value already upper-cased, of the value's length.
+template <class Char>
+bool FitsFormat(std::basic_string_view<Char> upper, std::basic_string_view<Char> mask,
+                const TCharSet& others) {
   using Code = std::make_unsigned_t<Char>;
-  for (size_t i = 0; i < value.size(); ++i) {
-    if (mask[i] == '*') continue;
-    if (!FitsMask(static_cast<Code>(upper(value[i])), static_cast<Code>(mask[i]), others))
-      return false;
+  for (size_t i = 0; i < upper.size(); ++i) {
+    if (!FitsMask(static_cast<Code>(upper[i]), static_cast<Code>(mask[i]), others)) return false;
   }
   return true;
 }
@@ -152,18 +134,10 @@ void ChkEngCharSet(std::string_view text, std::u16string_view fieldLabel) {
 }
 
 void ChkSyntax(std::u16string_view text, std::u16string_view fieldLabel) {
-  for (size_t i = 0; i < text.size(); ++i) {
-    const char16_t c = text[i];
-    bool allowed;
-    if (c < 0x80) {
-      allowed = kSyntaxSet.test(UpperUnit(c));
-    } else {
-      const std::u16string upper =
-          IsSurrogate(c) ? std::u16string(1, c) : MV_WideUpperCase(std::u16string_view(&c, 1));
-      allowed = std::all_of(upper.begin(), upper.end(),
-                            [](char16_t u) { return u < 0x80 && kSyntaxSet.test(u); });
-    }
-    if (!allowed) Refuse(fieldLabel, CharacterAt(text, i));
+  // One unit for one unit, so position i of the upper case is position i of the text as typed.
+  const std::u16string upper = MV_WideUpperCase(text);
+  for (size_t i = 0; i < upper.size(); ++i) {
+    if (upper[i] >= 0x80 || !kSyntaxSet.test(upper[i])) Refuse(fieldLabel, CharacterAt(text, i));
   }
 }
 
@@ -268,11 +242,13 @@ bool HasChinese(std::u16string_view text) {
 }
 
 bool ChkFormat(std::u16string_view value, std::u16string_view mask, const TCharSet& others) {
-  return FitsFormat(value, mask, others, UpperUnit);
+  if (!NotEmpty(value) || value.size() != mask.size()) return false;
+  return FitsFormat<char16_t>(MV_WideUpperCase(value), mask, others);
 }
 
 bool ChkFormat(std::string_view value, std::string_view mask, const TCharSet& others) {
-  return FitsFormat(value, mask, others, UpperByte);
+  if (!NotEmpty(value) || value.size() != mask.size()) return false;
+  return FitsFormat<char>(ECharUpperCase(value), mask, others);
 }
 
 bool ChkFloatFmt_NDotDotXCommaY(std::u16string_view value, int n, int x) {

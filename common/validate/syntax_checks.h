@@ -37,9 +37,10 @@ void CheckFieldLength(std::u16string_view text, int maxLength, std::string_view 
 // double-byte character of the user's code page is shown as that whole character.
 void ChkEngCharSet(std::string_view text, std::u16string_view fieldLabel);
 
-// Passes when `text`, upper-cased (MV_WideUpperCase, character by character), holds only the
-// document syntax set: blank, 0-9, A-Z, ! " % & ' ( ) * + , - . / : ; < = > ? CR and LF. The
-// first other character is refused (message with the character as typed, EAbort).
+// Passes when `text`, upper-cased (MV_WideUpperCase: one unit for one, so "ß" stays and is
+// refused), holds only the document syntax set: blank, 0-9, A-Z, ! " % & ' ( ) * + , - . / : ; < =
+// > ? CR and LF. The first other character is refused (message with the character as typed,
+// EAbort).
 void ChkSyntax(std::u16string_view text, std::u16string_view fieldLabel);
 
 // Checks the Chinese characters of `text` against the installation's code list
@@ -73,10 +74,11 @@ bool HasChinese(std::u16string_view text);
 
 // True when `value` fits `mask` position by position: "A" a letter A-Z, "9" a digit, "X" a
 // letter or digit, "O" a member of `others`, "*" anything, any other mask character itself.
-// Letters of `value` count in either case (the value is upper-cased first; in wide text each
-// unit by MV_WideUpperCase, a unit whose upper case is longer kept as it is; in narrow text byte
-// by byte, a-z only). "O" tests the low byte of a wide unit, so U+4E41 passes when 0x41 is in
-// `others`. False for a blank or empty value and when the lengths (UTF-16 units / bytes) differ.
+// Letters of `value` count in either case (the value is upper-cased first: wide text by
+// MV_WideUpperCase, narrow text in the user's code page by ECharUpperCase, which leaves the bytes
+// of double-byte characters alone). "A", "9", "X" and "O" test the low byte of a wide unit, so
+// U+4E41 passes "A", U+3431 passes "9". False for a blank or empty value and when the lengths
+// (UTF-16 units / bytes) differ.
 bool ChkFormat(std::u16string_view value, std::u16string_view mask, const TCharSet& others);
 bool ChkFormat(std::string_view value, std::string_view mask, const TCharSet& others);
 

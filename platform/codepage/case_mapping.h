@@ -7,15 +7,17 @@
 
 namespace mv::codepage {
 
-// The wide text in upper case (full mapping: "ß" becomes "SS"); unpaired surrogates stay as they
-// are.
-std::u16string UpperCase(std::u16string_view text);
+// The wide text in upper case, UTF-16 unit by unit with the simple case mapping (u_toupper), as
+// the platform's wide upper-casing maps it: the text keeps its length, "ß" and "ﬁ" (whose upper
+// case is more than one character) stay as they are, and so do surrogates.
+[[nodiscard]] std::u16string UpperCase(std::u16string_view text);
 
-// The wide text in lower case (full mapping); unpaired surrogates stay as they are.
-std::u16string LowerCase(std::u16string_view text);
+// The wide text in lower case, unit by unit with the simple case mapping (u_tolower); the text
+// keeps its length and surrogates stay as they are.
+[[nodiscard]] std::u16string LowerCase(std::u16string_view text);
 
 // The simple case folding of one code point ('A' and 'a' both give 'a'); a value that is no code
 // point comes back unchanged.
-char32_t FoldCase(char32_t c);
+[[nodiscard]] char32_t FoldCase(char32_t c);
 
 }  // namespace mv::codepage

@@ -27,6 +27,8 @@ TEST(CheckCommand, PrintsTheAnswerAndTheMessageTheUserWouldSee) {
            {{"base36", "-5"}, "0\n"},
            {{"digits", "１２"}, "false\n"},
            {{"format", "HK/1", "AAO9", "/-"}, "true\n"},
+           {{"format", "乁", "A"}, "true\n"},  // U+4E41: its low byte is "A"
+           {{"format", "㐱", "9"}, "true\n"},  // U+3431: its low byte is "1"
            {{"float", "-1.5", "5", "2"}, "false\n"},
            {{"tabs", "a\tb"}, "true\n"},
            {{"syntax", "a@b"}, "false\nText含有不容許的字元「@」。\n"},

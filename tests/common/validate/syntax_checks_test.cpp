@@ -63,12 +63,14 @@ TEST_F(SyntaxChecksTest, EnglishAndSyntaxSetsStopAtTheFirstRefusedCharacter) {
   EXPECT_NO_THROW(ChkSyntax(u"\u0131", u"Goods"));  // upper-cased first: the dotless i is "I"
   EXPECT_THROW(ChkEngCharSet("A\tB\x01", u"Remarks"), EAbort);
   EXPECT_THROW(ChkEngCharSet("OK" + Big5("報單"), u"Remarks"), EAbort);  // shown whole
-  for (std::u16string_view refused : {u"a_", u"a~", u"a\t", u"aé", u"a\U0002000B"})
+  // ß and ﬁ keep their case, as their upper case is more than one character.
+  for (std::u16string_view refused :
+       {u"a_", u"a~", u"a\t", u"aé", u"a\U0002000B", u"stra\u00DFe", u"\uFB01x"})
     EXPECT_THROW(ChkSyntax(refused, u"Goods"), EAbort);
   EXPECT_EQ(Shown(),
             u"Remarks contains \"\t\".|Remarks contains \"報\".|Goods contains \"_\".|Goods "
             u"contains \"~\".|Goods contains \"\t\".|Goods contains \"é\".|Goods contains "
-            u"\"\U0002000B\".|");
+            u"\"\U0002000B\".|Goods contains \"ß\".|Goods contains \"ﬁ\".|");
 }
 
 TEST_F(SyntaxChecksTest, ChineseClassesFoldAcrossFields) {
@@ -116,11 +118,19 @@ TEST(Formats, MasksDecimalNumbersAndChineseText) {
                              {u"", u""},
                              {u"Ａ1", u"A9"},
                              {u"\u4E2F", u"O"},
+                             {u"\u4E41\u3431\u4E58", u"A9X"},
+                             {u"\u4E41", u"9"},
                              {u"ß", u"ß"}})
     answers += ChkFormat(value, mask, slash) ? '1' : '0';
-  // "O" takes U+4E2F for its low byte "/"; ß, whose upper case is two letters, stays itself.
-  EXPECT_EQ(answers, "1010100011");
+  // Every rule but "*" and "itself" reads the low byte: U+4E2F is "/", 乁 "A", 㐱 "1", 乘 "X".
+  // ß, whose upper case is two letters, stays itself.
+  EXPECT_EQ(answers, "101010001101");
   EXPECT_TRUE(ChkFormat(std::string("ab1/"), std::string("AA9O"), slash));
+  {
+    ScopedEnv big5("MV_CODEPAGE", "950");
+    // The second byte of Big5 地 is "a": not a letter to upper-case.
+    EXPECT_TRUE(ChkFormat(Big5("地a"), Big5("地A"), none));
+  }
   EXPECT_FALSE(ChkFormat(std::string(" "), std::string("*"), none));
   answers.clear();
   for (std::u16string_view value : {u"12.5", u"12345", u".5", u"1234.56", u"123.456", u"12."})

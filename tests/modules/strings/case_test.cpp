@@ -33,9 +33,10 @@ TEST_F(CaseTest, Big5SecondBytesAreNoLetters) {
   EXPECT_EQ(_MV_ChangeCase("a" + wus + "zz"), "A" + wus + "Zz");
 }
 
-TEST_F(CaseTest, WideCaseMappingFollowsUnicode) {
-  EXPECT_EQ(MV_WideUpperCase(u"straße ａσ"), u"STRASSE ＡΣ");
-  EXPECT_EQ(MV_WideLowerCase(u"İI"), u"i̇i");  // root rules, not Turkish
+TEST_F(CaseTest, WideCaseMappingFollowsUnicodeOneUnitForOne) {
+  // ß and ﬁ have no one-character upper case and stay; a surrogate pair (𐐨) stays as well.
+  EXPECT_EQ(MV_WideUpperCase(u"straße ａσǆﬁ\U00010428"), u"STRAßE ＡΣǄﬁ\U00010428");
+  EXPECT_EQ(MV_WideLowerCase(u"İI\U00010400"), u"ii\U00010400");  // root rules, not Turkish
   EXPECT_EQ(MV_WideUpperCase("x" + kWu + kFullSmallA), u"X兀Ａ");
   EXPECT_EQ(MV_WideLowerCase(kFullA + "Q"), u"ａq");
 }
