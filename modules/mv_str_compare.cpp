@@ -4,6 +4,7 @@
 
 #include "modules/mv_text_units.h"
 #include "platform/codepage/case_mapping.h"
+#include "platform/codepage/collation.h"
 
 namespace mv::modules {
 namespace {
@@ -67,6 +68,13 @@ int MV_WideCompareStr(std::u16string_view a, std::string_view b) {
 }
 int MV_WideCompareStr(std::u16string_view a, std::u16string_view b) {
   return CompareAny(a, b, false);
+}
+
+int MV_AnsiCompareText(std::string_view a, std::string_view b) {
+  return codepage::CompareTextByLocale(detail::Widen(a), detail::Widen(b));
+}
+int MV_AnsiCompareText(std::u16string_view a, std::u16string_view b) {
+  return codepage::CompareTextByLocale(a, b);
 }
 
 int MV_WideCompareText(std::string_view a, std::string_view b) {

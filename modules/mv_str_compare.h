@@ -21,6 +21,13 @@ int MV_WideCompareText(std::string_view a, std::u16string_view b);
 int MV_WideCompareText(std::u16string_view a, std::string_view b);
 int MV_WideCompareText(std::u16string_view a, std::u16string_view b);
 
+// Order of two texts as the user's language sorts them, without regard to case
+// (codepage::CompareTextByLocale): -1, 0 or 1. Punctuation and symbols come before digits and
+// digits before letters, so the lines "1=a", "10=b", "2=c" are in order. The order of every sorted
+// string list.
+[[nodiscard]] int MV_AnsiCompareText(std::string_view a, std::string_view b);
+[[nodiscard]] int MV_AnsiCompareText(std::u16string_view a, std::u16string_view b);
+
 // True when the two texts are equal, case counting.
 bool MV_WideSameStr(std::string_view a, std::string_view b);
 bool MV_WideSameStr(std::string_view a, std::u16string_view b);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "modules/mv_strings.h"
+#include "modules/mv_str_compare.h"
 
 namespace mv {
 
@@ -15,7 +15,7 @@ const std::string& LineAt(const TStringList& list, size_t index) {
 
 void SortStringList(TStringList& list) {
   std::stable_sort(list.begin(), list.end(), [](const std::string& a, const std::string& b) {
-    return modules::MV_CompareText(a, b) < 0;
+    return modules::MV_AnsiCompareText(a, b) < 0;
   });
 }
 

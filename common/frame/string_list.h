@@ -19,7 +19,9 @@ class EListError : public std::out_of_range {
 // Line `index` of `list`; throws EListError "List index out of bounds (N)" when there is none.
 const std::string& LineAt(const TStringList& list, size_t index);
 
-// Sorts `list` by whole line without regard to ASCII case (equal lines keep their order).
+// Sorts `list` by whole line as the user's language sorts texts, without regard to case
+// (MV_AnsiCompareText: "=" before digits, digits before letters, so keys 1, 10, 11, 2 keep that
+// order); lines that compare equal keep their order.
 void SortStringList(TStringList& list);
 
 // The lines of `list` joined with CR LF after each line (the list's text).

@@ -103,14 +103,14 @@ TEST_F(StartupTest, HalvoEditionAlwaysSupportsTypeB) {
 TEST_F(StartupTest, ListsKeepTuplesOrValuesAsEachNeeds) {
   Load(
       "[Addon]\nCalc=calc.exe\n[Addon_Toolbar]\nT1=tool.exe,1\n"
-      "[SERVICES]\nb=BSERV,x,0\nA=ASERV,y\nc=CSERV\n"
+      "[SERVICES]\nb=BSERV,x,0\n10=TEN\nA=ASERV,y\n2=TWO\nc=CSERV\n1=ONE\n"
       "[InboxAction]\nDecl=|V|P|\nOther=|X|\n");
   EXPECT_EQ(*Addon, TStringList{"Calc=calc.exe"});
   EXPECT_EQ(*AddonToolBar, TStringList{"tool.exe,1"});
-  // Sorted by key without regard to case, then reduced to values.
-  EXPECT_EQ(*Service, (TStringList{"ASERV,y", "BSERV,x,0", "CSERV"}));
-  ASSERT_EQ(AryPkgInfo.size(), 3u);
-  EXPECT_EQ(AryPkgInfo[1].ServiceName + AryPkgInfo[1].ServiceExtra, "BSERVx");
+  // Sorted by key without regard to case, "=" before digits, then reduced to values.
+  EXPECT_EQ(*Service, (TStringList{"ONE", "TEN", "TWO", "ASERV,y", "BSERV,x,0", "CSERV"}));
+  ASSERT_EQ(AryPkgInfo.size(), 6u);
+  EXPECT_EQ(AryPkgInfo[4].ServiceName + AryPkgInfo[4].ServiceExtra, "BSERVx");
   EXPECT_EQ(*InboxAction, (TStringList{"|V|P|", "|X|"}));
   EXPECT_EQ(*InboxActList, (TStringList{"Decl", "Other"}));
 }

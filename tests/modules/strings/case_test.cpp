@@ -67,6 +67,17 @@ TEST_F(CaseTest, CompareTextFoldsOnlySingleByteLetters) {
   EXPECT_FALSE(MV_SameText(u"ａ", u"Ａ"));  // only English letters a-z fold
 }
 
+TEST_F(CaseTest, LocaleOrderPutsPunctuationBeforeDigitsBeforeLetters) {
+  EXPECT_LT(MV_AnsiCompareText("1=z", "10=a"), 0);  // byte order would put "10" first
+  EXPECT_LT(MV_AnsiCompareText(u"-", u"0"), 0);
+  EXPECT_LT(MV_AnsiCompareText(u"9", u"a"), 0);
+  EXPECT_EQ(MV_AnsiCompareText(u"ab=1", u"AB=1"), 0);
+  EXPECT_NE(MV_AnsiCompareText(u"e", u"é"), 0);                           // accents count
+  EXPECT_EQ(MV_AnsiCompareText(kWu + "x", std::string("\xA4\x61X")), 0);  // Big5 read as its text
+  EXPECT_NE(MV_AnsiCompareText(kWu, kYi), 0);
+  EXPECT_EQ(MV_AnsiCompareText(u"a\xD800", u"A\xD800"), 0);  // a lone surrogate is a unit too
+}
+
 TEST_F(CaseTest, MatchCountsWholeCharacters) {
   EXPECT_EQ(_MV_Match(std::string("abcd"), "abxy"), 2);
   EXPECT_EQ(_MV_Match(kZhong + kWu, kZhong + kYi), 1);  // 兀 and 乙 share their first byte only
