@@ -1,6 +1,8 @@
 // The library's preparations of a dataset before it opens: how it reads and writes, and the
 // time-out its statements get. Each sets the cursor location, the lock kind and the command
-// time-out; all take effect when the dataset next opens.
+// time-out; all take effect when the dataset next opens. The time-outs iReadTimeOut and
+// iWriteTimeOut are seconds as the database components read them: 0 sets no limit, -1 leaves the
+// driver's own, and on SQLite they also bound the wait for a file another connection has locked.
 #pragma once
 
 namespace mv::db {

@@ -2,8 +2,10 @@
 
 #include <QtSql/QSqlRecord>
 
+#include "platform/db/connection_qt.h"
 #include "platform/db/dataset_impl.h"
 #include "platform/db/db_error.h"
+#include "platform/db/lock_wait_p.h"
 #include "platform/db/qt_values.h"
 #include "platform/db/row_keys_p.h"
 #include "platform/db/run_query.h"
@@ -22,21 +24,16 @@ TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types) {
 }
 
 // Runs the dataset's command text; on an editable select from one table with a primary key, with
-// the key columns selected first (`keyColumns` set to their number). A text that the extra columns
-// break (an aggregate on the server, say) runs as written, its rows named by every column read.
+// the key columns selected first (`keyColumns` set to their number).
 QSqlQuery RunSelect(const TMVADODataSet& dataset, const std::u16string& table, size_t& keyColumns) {
   keyColumns = 0;
   if (table.empty() || dataset.ReadOnly()) return RunQuery(dataset, true);
-  const std::vector<std::string> keys = PrimaryKeyOf(dataset.ConnectionName(), table);
+  const std::vector<std::string> keys =
+      PrimaryKeyOf(dataset.ConnectionName(), table, dataset.CommandTimeout());
   const std::u16string keyed = WithKeyColumns(dataset.CommandText(), keys);
   if (keyed.empty()) return RunQuery(dataset, true);
-  try {
-    QSqlQuery query = RunQuery(dataset, keyed, true);
-    keyColumns = keys.size();
-    return query;
-  } catch (const EDatabaseError&) {
-    return RunQuery(dataset, true);
-  }
+  keyColumns = keys.size();
+  return RunQuery(dataset, keyed, true);
 }
 
 }  // namespace

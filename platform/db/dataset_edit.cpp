@@ -7,6 +7,7 @@
 #include "platform/db/dataset.h"
 #include "platform/db/dataset_impl.h"
 #include "platform/db/db_error.h"
+#include "platform/db/lock_wait_p.h"
 #include "platform/db/qt_values.h"
 #include "platform/db/row_keys_p.h"
 #include "platform/db/run_query.h"
@@ -132,6 +133,7 @@ void KeepKeyOfWrittenRow(TMVADODataSet::Impl& d, const QSqlQuery* insert) {
 // undoes it on the error.
 void RunRowUpdate(const std::string& connection, const TStatement& s, int timeout) {
   QSqlDatabase database = DatabaseOf(connection);
+  const TLockWait wait(database, timeout);  // the commit waits as long as the update
   const bool own = database.transaction();
   int changed = 0;
   try {

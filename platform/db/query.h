@@ -43,7 +43,8 @@ class TMVADOQuery {
   // Raises EDatabaseError when `index` is out of range.
   void SetUnicodeParamValue(int index, std::u16string_view value, bool fromCarrier);
 
-  // Seconds the database may take for one statement; -1 (the default) leaves the driver's own.
+  // Seconds the database may take for one statement, a wait for a SQLite file that another
+  // connection has locked included; 0 sets no limit, -1 (the default) leaves the driver's own.
   int CommandTimeout() const { return commandTimeout_; }
   void SetCommandTimeout(int seconds) { commandTimeout_ = seconds; }
 

@@ -9,14 +9,17 @@
 namespace mv::db {
 
 // The primary key columns of `table` (as a select names it: T, [T], dbo.T) on the open connection
-// `connection`, from the schema (SQLite's table_info, ODBC's primary key catalogue); empty for a
-// table without one, or one the schema does not know.
-std::vector<std::string> PrimaryKeyOf(const std::string& connection, std::u16string_view table);
+// `connection`, in key order, from the schema (SQLite's table_info, ODBC's primary key catalogue);
+// empty for a table without one, or one the schema does not know. On SQLite the look-up waits for
+// a locked file `timeout` seconds as a statement does, and raises EDatabaseError when it gives up.
+std::vector<std::string> PrimaryKeyOf(const std::string& connection, std::u16string_view table,
+                                      int timeout);
 
 // The command text `commandText` (a select from one table) with the columns `keys` selected first,
-// ahead of the columns it reads: "select a from T" -> "select [k1], [k2], a from T". Empty when the
-// text does not open with a plain "select" (after blanks), or selects DISTINCT or TOP rows, whose
-// rows the extra columns would change.
+// ahead of the columns it reads: "select a from T" -> "select [k1], [k2], a from T". Empty unless
+// the text opens with "select" (after blanks) and a list of plain columns (names, "*", aliases:
+// no DISTINCT, TOP, expressions or literals) and has no GROUP BY, HAVING or UNION, so that the
+// extra columns change neither its rows nor whether the server accepts it.
 std::u16string WithKeyColumns(std::u16string_view commandText,
                               const std::vector<std::string>& keys);
 

@@ -9,14 +9,12 @@
 
 #include "platform/db/connection_qt.h"
 #include "platform/db/db_error.h"
+#include "platform/db/lock_wait_p.h"
 #include "platform/db/qt_values.h"
 #include "platform/db/sql_text.h"
 
 namespace mv::db {
 namespace {
-
-// Qt's SQLite driver waits this long for a locked database unless told otherwise.
-constexpr int kSqliteDefaultBusyMs = 5000;
 
 // The ODBC statement of a query on the ODBC driver, or nullptr. Qt hands it out as SQLHANDLE,
 // which is a void*.
@@ -51,15 +49,12 @@ QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
   QSqlDatabase db = DatabaseOf(connection);
   QSqlQuery query(db);
   query.setForwardOnly(forwardOnly);
+  const TLockWait wait(db, timeout);  // preparing reads the schema, which a lock may hold up too
   const std::u16string text = backend == TBackend::SQLite ? SqliteDialect(sql) : sql;
   if (!query.prepare(QString::fromStdU16String(text))) Refused(query);
   for (const TBoundValue& v : values) query.addBindValue(ToQt(v.Value, v.Type, backend));
-  auto* sqlite = static_cast<sqlite3*>(SqliteHandleOf(db));
-  if (timeout >= 0 && sqlite != nullptr) sqlite3_busy_timeout(sqlite, timeout * 1000);
   if (timeout >= 0 && backend == TBackend::Odbc) SetOdbcTimeout(query, timeout);
-  const bool ok = query.exec();
-  if (timeout >= 0 && sqlite != nullptr) sqlite3_busy_timeout(sqlite, kSqliteDefaultBusyMs);
-  if (!ok) Refused(query);
+  if (!query.exec()) Refused(query);
   return query;
 }
 
