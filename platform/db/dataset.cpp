@@ -12,7 +12,6 @@
 #include "platform/db/sql_text.h"
 
 namespace mv::db {
-namespace {
 
 TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types) {
   TRow row;
@@ -22,6 +21,8 @@ TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types) {
   }
   return row;
 }
+
+namespace {
 
 // Runs the dataset's command text; on an editable select from one table with a primary key, with
 // the key columns selected first (`keyColumns` set to their number).

@@ -161,6 +161,11 @@ class TMVADODataSet : public TMVADOQuery {
   // Writes the edited or new row to its table and returns to dsBrowse; a refused write raises
   // EDatabaseError and the dataset stays in its state. Nothing happens in dsBrowse.
   void Post();
+  // Deletes the current row from its table, named as Post names it, and moves to the row after
+  // it; a new row not yet posted is only dropped, and a pending edit is dropped first. Raises
+  // EDatabaseError, keeping the row, when the dataset cannot be modified (as Edit), has no current
+  // row, or the row is not found or not told apart from others.
+  void Delete();
   // Drops the pending edit or new row and returns to dsBrowse.
   void Cancel();
 

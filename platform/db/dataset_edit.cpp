@@ -127,8 +127,8 @@ void KeepKeyOfWrittenRow(TMVADODataSet::Impl& d, const QSqlQuery* insert) {
   }
 }
 
-// Runs the update `s`, which must change exactly the edited row. Where the connection can, the
-// update runs in a transaction of its own so that an update that would change several rows (the
+// Runs the update or delete `s`, which must change exactly one row. Where the connection can, it
+// runs in a transaction of its own so that a statement that would change several rows (the
 // columns read do not tell them apart) is undone; inside the caller's transaction the caller
 // undoes it on the error.
 void RunRowUpdate(const std::string& connection, const TStatement& s, int timeout) {
@@ -148,9 +148,10 @@ void RunRowUpdate(const std::string& connection, const TStatement& s, int timeou
   }
   if (own) database.rollback();
   if (changed == 0) {
-    throw EDatabaseError("Row cannot be located for updating: it was changed since it was read");
+    throw EDatabaseError(
+        "Row cannot be located for updating: it was changed or deleted since it was read");
   }
-  throw EDatabaseError("Key column information is insufficient: the update would change " +
+  throw EDatabaseError("Key column information is insufficient: the statement would change " +
                        std::to_string(changed) + " rows");
 }
 
@@ -211,6 +212,20 @@ void TMVADODataSet::Post() {
     d.rows.insert(d.rows.begin() + static_cast<long>(d.current), d.buffer);
   }
   d.state = dsBrowse;
+}
+
+void TMVADODataSet::Delete() {
+  CheckEditable();
+  Impl& d = *impl_;
+  const bool inserting = d.state == dsInsert;
+  Cancel();
+  if (inserting) return;
+  if (Eof()) throw EDatabaseError("Cannot delete: the dataset has no current record");
+  TStatement s;
+  s.Sql = u"DELETE FROM " + d.table + u" WHERE " + RowCondition(d, d.rows[d.current], s.Values);
+  RunRowUpdate(ConnectionName(), s, CommandTimeout());
+  d.rows.erase(d.rows.begin() + static_cast<long>(d.current));
+  if (d.cursor && d.cursor->next()) d.rows.push_back(ReadRow(*d.cursor, d.columnTypes));
 }
 
 void TMVADODataSet::Cancel() {

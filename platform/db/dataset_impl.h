@@ -12,6 +12,9 @@ namespace mv::db {
 
 using TRow = std::vector<Variant>;
 
+// The current row of `query`, its columns read as `types`.
+TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types);
+
 struct TMVADODataSet::Impl {
   TDataSetState state = dsInactive;
   std::vector<std::unique_ptr<TField>> fields;  // in field order

@@ -237,6 +237,31 @@ TYPED_TEST(DataSetTest, ARowAppendedUnderANumberedKeyIsEditedByThatKey) {
   EXPECT_EQ(ds.Fields(0).AsString(), "y");
 }
 
+// A delete names its row as an update does: by the key where the table has one, else by every
+// column read, refused (and undone) where those match several rows or none.
+TYPED_TEST(DataSetTest, DeleteRemovesTheCurrentRowOnlyWhenItCanBeNamed) {
+  test::Exec("create table Usr (userid varchar(9) primary key, Note varchar(9))");
+  test::Exec("insert into Usr values ('A', 'same'), ('B', 'same'), ('C', 'same')");
+  auto& ds = this->ds_;
+  ds.SetCommandText("select Note from Usr order by userid");
+  ds.Open();
+  ds.Next();
+  ds.Delete();
+  EXPECT_EQ(ds.RecordCount(), 2);
+  EXPECT_EQ(ds.RecNo(), 2);  // C, after the deleted B
+  test::Exec("delete from Usr where userid = 'C'");
+  EXPECT_THROW(ds.Delete(), EDatabaseError);
+  EXPECT_EQ(ds.RecordCount(), 2);
+  ds.Close();
+  test::Exec("insert into Msg select * from Msg");  // every message twice
+  this->OpenAll();
+  EXPECT_THROW(ds.Delete(), EDatabaseError);
+  ds.Close();
+  ds.SetCommandText("select count(*) from Msg");
+  ds.Open();
+  EXPECT_EQ(ds.Fields(0).AsInteger(), 6);
+}
+
 TYPED_TEST(DataSetTest, AppendPostsANewRow) {
   auto& ds = this->ds_;
   this->OpenAll();
