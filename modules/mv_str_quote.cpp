@@ -3,15 +3,15 @@
 #include <optional>
 
 #include "modules/mv_text_units.h"
+#include "platform/db/wide_literals.h"
 
 namespace mv::modules {
 namespace {
 
 template <class Char>
-std::basic_string<Char> Quoted(std::basic_string_view<Char> s, Char quote,
-                               std::basic_string_view<Char> prefix = {}) {
+std::basic_string<Char> Quoted(std::basic_string_view<Char> s, Char quote) {
   detail::TChars<Char> chars{s};
-  std::basic_string<Char> out(prefix);
+  std::basic_string<Char> out;
   out.push_back(quote);
   for (size_t i = 0; i < chars.Count(); ++i) {
     if (chars.Is(i, quote)) out.push_back(quote);
@@ -69,10 +69,13 @@ std::u16string MV_WideDequotedStr(std::u16string_view s, char16_t quote) {
 }
 
 std::string MV_NQuotedStr(std::string_view s) {
-  return Quoted(s, '\'', std::string_view("N"));
+  return "N'" + db::InlineLiteralBody(s) + "'";
 }
 std::u16string MV_NQuotedStr(std::u16string_view s) {
-  return Quoted(s, u'\'', std::u16string_view(u"N"));
+  std::u16string out = u"N'";
+  out += db::InlineLiteralBody(s);
+  out += u'\'';
+  return out;
 }
 
 bool MV_CheckQuot(std::string_view s) {

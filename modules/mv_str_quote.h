@@ -20,7 +20,8 @@ std::u16string MV_WideQuotedStr(std::u16string_view s, char16_t quote);
 std::string MV_WideDequotedStr(std::string_view s, char quote);
 std::u16string MV_WideDequotedStr(std::u16string_view s, char16_t quote);
 
-// The SQL national literal of the text: "N'" + the text with every "'" doubled + "'".
+// The SQL national literal of the text, which the database layer reads back as the text: "N'" +
+// the text with every "'" doubled and every ":" after an odd number of '"' doubled + "'".
 std::string MV_NQuotedStr(std::string_view s);
 std::u16string MV_NQuotedStr(std::u16string_view s);
 

@@ -1,26 +1,17 @@
 #include "modules/mv_widevc.h"
 
-#include <algorithm>
-
 #include "modules/mv_codepage.h"
 #include "modules/mv_str_quote.h"
 
 namespace mv::modules {
 namespace {
 
-// The text without the last mark when the marks do not pair up.
 std::u16string WithoutUnpairedMark(std::u16string_view w) {
-  std::u16string out(w);
-  if (std::count(out.begin(), out.end(), WideLiteralMark) % 2 != 0) {
-    out.erase(out.rfind(WideLiteralMark), 1);
-  }
-  return out;
+  return db::WithPairedLiteralMarks(w);
 }
 
 std::u16string WithoutMarks(std::u16string_view w) {
-  std::u16string out(w);
-  out.erase(std::remove(out.begin(), out.end(), WideLiteralMark), out.end());
-  return out;
+  return db::WithoutLiteralMarks(w);
 }
 
 }  // namespace

@@ -2,8 +2,9 @@
 // and the other primitives. A carrier is plain UTF-16 (std::u16string) with no framing of its own.
 // A stretch between two WideLiteralMark characters stands for a literal: the search code wraps the
 // user's words in marks, query code turns each marked stretch into a parameter, and whatever
-// marked stretch is still left when a command text reaches the database is written as a national
-// literal N'...' (MV_WideVcLiteralsToSql).
+// marked stretch is still left when a command text reaches the database is bound as a value by
+// the database layer (platform/db/wide_literals.h). MV_WideVcLiteralsToSql writes the stretches
+// as national literals N'...' instead, for text that goes elsewhere.
 //
 // Marks pair up from the left: the first opens a stretch, the second closes it, and so on. A
 // carrier made by MV_SetWideVc never ends inside a stretch.
@@ -16,10 +17,12 @@
 #include <string>
 #include <string_view>
 
+#include "platform/db/wide_literals.h"
+
 namespace mv::modules {
 
-// Opens and closes a literal stretch in a carrier.
-inline constexpr char16_t WideLiteralMark = u'\x02';
+// Opens and closes a literal stretch in a carrier; the database layer's mark.
+inline constexpr char16_t WideLiteralMark = db::WideLiteralMark;
 
 // The carrier of wide text that may hold marked literals: the text with its paired marks kept and
 // a last mark without a partner removed; nothing else changes.

@@ -3,20 +3,10 @@
 #include "common/search/wildcard.h"
 #include "common/search/wildcard_terms.h"
 #include "common/text/conversions.h"
+#include "platform/db/wide_literals.h"
 
 namespace mv {
 namespace {
-
-template <class Char>
-std::basic_string<Char> DoubledQuotes(std::basic_string_view<Char> text) {
-  std::basic_string<Char> out;
-  out.reserve(text.size() + 2);
-  for (Char c : text) {
-    out += c;
-    if (c == Char('\'')) out += c;
-  }
-  return out;
-}
 
 // The value escaped for a like condition with Escape '!' and its quotes doubled; "*" and "?"
 // stay as they are, as the value holds no wildcards.
@@ -52,25 +42,18 @@ std::string StrSQLCond(std::string_view fieldName, std::u16string_view value) {
 std::u16string RepeatColonAfterOddDBQuote(std::u16string_view text) {
   if (text.find(u'"') == std::u16string_view::npos || text.find(u':') == std::u16string_view::npos)
     return std::u16string(text);
-  std::u16string out;
-  out.reserve(text.size() + 4);
-  bool inside = false;
-  for (char16_t c : text) {
-    if (c == u'"') inside = !inside;
-    if (c == u':' && inside) out += c;
-    out += c;
-  }
-  return out;
+  return db::ColonsDoubledAfterOddDoubleQuote(text);
 }
 
 std::u16string CheckQuot(std::u16string_view text) {
-  return DoubledQuotes(text);
+  return db::InlineLiteralBody(text);
 }
 
-// The quote byte never stands as the second byte of a double-byte character in the code pages
-// the client uses (Big5, GBK and UTF-8 second bytes are 0x40 and above), so bytes will do.
+// The quote, double quote and colon bytes never stand as the second byte of a double-byte
+// character in the code pages the client uses (Big5, GBK and UTF-8 second bytes are 0x40 and
+// above), so bytes will do.
 std::string CheckQuot(std::string_view text) {
-  return DoubledQuotes(text);
+  return db::InlineLiteralBody(text);
 }
 
 }  // namespace mv

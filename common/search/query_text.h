@@ -24,9 +24,11 @@ std::string StrSQLCond(std::string_view fieldName, std::u16string_view value);
 // a colon comes back unchanged.
 std::u16string RepeatColonAfterOddDBQuote(std::u16string_view text);
 
-// Wide `text` with every single quote doubled, for a literal put inline into SQL text.
-std::u16string CheckQuot(std::u16string_view text);
-// Narrow `text` (user's code page) with every single quote doubled.
-std::string CheckQuot(std::string_view text);
+// Wide `text` for a literal put inline into SQL text ('...' or N'...'): every single quote
+// doubled, and every colon after an odd number of double quotes doubled, so that the database
+// layer reads the literal back as `text`. Marks, NULs and other characters are kept as they are.
+[[nodiscard]] std::u16string CheckQuot(std::u16string_view text);
+// The same for narrow `text` (user's code page).
+[[nodiscard]] std::string CheckQuot(std::string_view text);
 
 }  // namespace mv

@@ -3,8 +3,9 @@
 // a range (bounds compare literally); "_", "%", "[" and "!" are plain characters. The condition is
 // parenthesised SQL Server text for after WHERE; an empty condition means there is none. A
 // pattern that matches everything as one term ("*", blanks only) also finds NULL columns.
-// FieldName goes into the text as it stands (an alias such as "m.MsgRef" is fine). No routine
-// throws; every pattern gives a text.
+// FieldName goes into the text as it stands (an alias such as "m.MsgRef" is fine). In a quoted
+// literal a colon after an odd number of double quotes is written twice, as the database layer
+// reads "::" there as one ":". No routine throws; every pattern gives a text.
 #pragma once
 
 #include <string>

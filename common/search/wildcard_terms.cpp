@@ -1,14 +1,24 @@
 #include "common/search/wildcard_terms.h"
 
+#include "platform/db/wide_literals.h"
+
 namespace mv::search {
 namespace {
 
 constexpr std::u16string_view kRangeSign = u"..";
 constexpr char16_t kAlternativeSign = u'|';
 
-std::u16string Literal(std::u16string_view text, const TLiteralForm& form) {
+// The opening of a literal and its text. A quoted literal's colons after an odd number of double
+// quotes are doubled, as the database layer reads "::" there as one ":"; a marked literal is
+// bound as it stands.
+std::u16string Opened(std::u16string_view text, const TLiteralForm& form) {
   std::u16string out(form.open);
-  out += text;
+  out += form.marked ? std::u16string(text) : db::ColonsDoubledAfterOddDoubleQuote(text);
+  return out;
+}
+
+std::u16string Literal(std::u16string_view text, const TLiteralForm& form) {
+  std::u16string out = Opened(text, form);
   out += form.close;
   return out;
 }
@@ -16,8 +26,7 @@ std::u16string Literal(std::u16string_view text, const TLiteralForm& form) {
 // The literal of a like condition with the escape clause: in the quoted forms the clause takes
 // the place of the closing quote, after marks it follows the closing mark.
 std::u16string EscapedLiteral(std::u16string_view text, const TLiteralForm& form) {
-  std::u16string out(form.open);
-  out += text;
+  std::u16string out = Opened(text, form);
   out += form.marked ? std::u16string(form.close) + u" Escape '" : u"' Escape '";
   out += WildEscapeChar;
   out += u'\'';

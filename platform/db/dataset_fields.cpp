@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "modules/mv_widevc.h"
 #include "platform/db/dataset.h"
 #include "platform/db/dataset_impl.h"
 #include "platform/db/db_error.h"
+#include "platform/db/wide_literals.h"
 
 namespace mv::db {
 namespace {
@@ -112,7 +112,7 @@ void TMVADODataSet::SetColumnValue(const TField& field, const Variant& value) {
 
 std::u16string TMVADODataSet::GetUnicodeFieldValue(int index, bool asCarrier) {
   const std::u16string value = Fields(index).AsWideString();
-  return asCarrier ? modules::MV_WideStringToWideVc(value) : value;
+  return asCarrier ? WithoutLiteralMarks(value) : value;
 }
 
 bool TMVADODataSet::Locate(std::string_view fieldName, const Variant& value) {

@@ -56,10 +56,11 @@ void TParameters::Rebuild(const std::vector<std::string>& names) {
 
 std::vector<std::string> ParameterNames(std::u16string_view commandText) {
   std::vector<std::string> names;
-  for (const std::string& place : PrepareSql(commandText).Places) {
+  for (const TSqlPlace& place : PrepareSql(commandText).Places) {
+    if (place.Name.empty()) continue;  // a literal of the text
     const bool seen = std::any_of(names.begin(), names.end(),
-                                  [&](const std::string& n) { return SameName(n, place); });
-    if (!seen) names.push_back(place);
+                                  [&](const std::string& n) { return SameName(n, place.Name); });
+    if (!seen) names.push_back(place.Name);
   }
   return names;
 }

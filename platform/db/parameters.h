@@ -1,7 +1,8 @@
 // The parameters of a command text. With the parameter check on, a query re-reads them whenever
 // its text changes: one parameter per distinct name written as ":name" (letters, digits, "_"),
 // in the order of first appearance, names compared without regard to case. A ":" inside a quoted
-// literal '...' or a marked literal does not start a name, and "::" stands for one ":".
+// literal, a quoted name, a comment or a marked literal does not start a name, and "::" stands for
+// one ":".
 #pragma once
 
 #include <string>

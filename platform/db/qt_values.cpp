@@ -4,6 +4,7 @@
 
 #include "platform/codepage/codepage.h"
 #include "platform/db/day_number.h"
+#include "platform/db/sql_text.h"
 
 namespace mv::db {
 namespace {
@@ -12,8 +13,9 @@ bool IsDateType(TFieldType t) {
   return t == ftDate || t == ftTime || t == ftDateTime;
 }
 
+// Well-formed, so that no driver's UTF-16 reader joins a lone surrogate with the next character.
 QString QtText(const std::u16string& w) {
-  return QString::fromStdU16String(w);
+  return QString::fromStdU16String(WellFormedText(w));
 }
 
 QDateTime QtDateTime(double days) {

@@ -1,7 +1,7 @@
 #include "platform/db/query.h"
 
-#include "modules/mv_widevc.h"
 #include "platform/codepage/codepage.h"
+#include "platform/db/wide_literals.h"
 
 namespace mv::db {
 
@@ -17,8 +17,7 @@ void TMVADOQuery::SetCommandText(std::string_view text) {
 
 void TMVADOQuery::SetUnicodeParamValue(int index, std::u16string_view value, bool fromCarrier) {
   TParameter& p = parameters_[index];
-  std::u16string text(value);
-  if (fromCarrier) modules::MV_GetWideVc(value, text);
+  std::u16string text = fromCarrier ? WithoutLiteralMarks(value) : std::u16string(value);
   p.DataType = ftWideString;
   p.Value = Variant(std::move(text));
 }

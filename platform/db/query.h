@@ -1,5 +1,6 @@
 // What datasets and commands share: the connection they run on, the command text (SQL Server's
-// dialect, as wide text that may hold marked literals), its parameters and the time-out.
+// dialect, as wide text that may hold marked literals), its parameters and the time-out. How a
+// text is read on its way to the driver: sql_text.h (PrepareSql).
 #pragma once
 
 #include <string>
@@ -21,8 +22,8 @@ class TMVADOQuery {
   const std::string& ConnectionName() const { return connectionName_; }
   void SetConnectionName(std::string_view name) { connectionName_ = name; }
 
-  // The command text as wide text (UTF-16). A stretch between two U+0002 marks that is still in
-  // the text when it runs is written as the national literal N'...'.
+  // The command text as wide text (UTF-16). A stretch between two U+0002 marks outside quoted
+  // literals that is still in the text when it runs is bound as a wide-string value.
   const std::u16string& CommandText() const { return commandText_; }
   // Sets the command text (wide or narrow in the user's code page); with the parameter check on,
   // the parameters are re-read from it (see parameters.h).

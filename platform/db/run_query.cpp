@@ -4,6 +4,7 @@
 #include <sqlext.h>
 #include <sqlite3.h>
 
+#include <QtSql/QSqlDriver>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlResult>
 
@@ -34,6 +35,30 @@ void SetOdbcTimeout(const QSqlQuery& query, int seconds) {
                  reinterpret_cast<SQLPOINTER>(static_cast<intptr_t>(seconds)), 0);
 }
 
+// Whether the ODBC connection `db` runs on the SQLite ODBC driver, which keeps every text as a C
+// string and so ends a bound text at its first NUL, losing the rest.
+bool OdbcCutsTextsAtNul(const QSqlDatabase& db) {
+  const QVariant handle = db.driver()->handle();
+  if (!handle.isValid()) return false;
+  SQLHANDLE connection = *static_cast<SQLHANDLE const*>(handle.data());
+  SQLCHAR name[64] = {};
+  SQLSMALLINT length = 0;
+  if (!SQL_SUCCEEDED(SQLGetInfo(connection, SQL_DBMS_NAME, name, sizeof name, &length)))
+    return false;
+  return std::string_view(reinterpret_cast<const char*>(name)).starts_with("SQLite");
+}
+
+// The value to bind for `v`. A text holding NUL goes whole to every driver that takes a text with
+// its length; the SQLite ODBC driver cannot, so there each NUL becomes U+FFFD and what follows it
+// is kept.
+QVariant BoundValue(const TBoundValue& v, TBackend backend, const QSqlDatabase& db) {
+  QVariant value = ToQt(v.Value, v.Type, backend);
+  if (backend != TBackend::Odbc || value.typeId() != QMetaType::QString) return value;
+  QString text = value.toString();
+  if (!text.contains(QChar(u'\0')) || !OdbcCutsTextsAtNul(db)) return value;
+  return text.replace(QChar(u'\0'), QChar(u'\xFFFD'));
+}
+
 [[noreturn]] void Refused(const QSqlQuery& query) {
   const QSqlError error = query.lastError();
   std::string message = error.databaseText().toStdString();
@@ -50,9 +75,10 @@ QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
   QSqlQuery query(db);
   query.setForwardOnly(forwardOnly);
   const TLockWait wait(db, timeout);  // preparing reads the schema, which a lock may hold up too
-  const std::u16string text = backend == TBackend::SQLite ? SqliteDialect(sql) : sql;
+  const std::u16string text =
+      WellFormedText(backend == TBackend::SQLite ? SqliteDialect(sql) : sql);
   if (!query.prepare(QString::fromStdU16String(text))) Refused(query);
-  for (const TBoundValue& v : values) query.addBindValue(ToQt(v.Value, v.Type, backend));
+  for (const TBoundValue& v : values) query.addBindValue(BoundValue(v, backend, db));
   if (timeout >= 0 && backend == TBackend::Odbc) SetOdbcTimeout(query, timeout);
   if (!query.exec()) Refused(query);
   return query;
@@ -67,9 +93,13 @@ QSqlQuery RunQuery(const TMVADOQuery& query, std::u16string_view commandText, bo
   std::vector<TBoundValue> values;
   values.reserve(prepared.Places.size());
   const TParameters& params = query.Parameters();
-  for (const std::string& place : prepared.Places) {
-    const TParameter* p = const_cast<TParameters&>(params).FindParam(place);
-    if (p == nullptr) throw EDatabaseError("Parameter '" + place + "' not found");
+  for (const TSqlPlace& place : prepared.Places) {
+    if (place.Name.empty()) {
+      values.push_back({Variant(place.Text), ftWideString});
+      continue;
+    }
+    const TParameter* p = const_cast<TParameters&>(params).FindParam(place.Name);
+    if (p == nullptr) throw EDatabaseError("Parameter '" + place.Name + "' not found");
     values.push_back({p->Value, p->DataType});
   }
   return RunSql(query.ConnectionName(), prepared.Sql, values, query.CommandTimeout(), forwardOnly);

@@ -17,12 +17,15 @@ struct TBoundValue {
 };
 
 // Runs `sql` (SQL Server's dialect, "?" places, no marks left) on `connection` with `values`
-// bound in order; `timeout` seconds (-1: the driver's). A forward-only query fetches rows as
-// asked. Raises EDatabaseError with the driver's message when the database refuses it.
+// bound in order; `timeout` seconds (-1: the driver's). Texts reach the driver well-formed (a lone
+// surrogate as U+FFFD) and bound texts with their length, NULs included. A forward-only query
+// fetches rows as asked. Raises EDatabaseError with the driver's message when the database
+// refuses it.
 QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
                  const std::vector<TBoundValue>& values, int timeout, bool forwardOnly);
 
-// Runs the command text of `query` with its parameters bound by name to their places.
+// Runs the command text of `query` (see PrepareSql) with its parameters bound by name to their
+// places and the literals it binds as wide texts.
 QSqlQuery RunQuery(const TMVADOQuery& query, bool forwardOnly);
 // The same with `commandText` in place of the query's own text.
 QSqlQuery RunQuery(const TMVADOQuery& query, std::u16string_view commandText, bool forwardOnly);

@@ -2,14 +2,12 @@
 
 #include <cctype>
 
-#include "modules/mv_widevc.h"
+#include "platform/db/sql_tokens.h"
 
 namespace mv::db {
 namespace {
 
-bool IsNameChar(char16_t c) {
-  return c == u'_' || (c < 128 && std::isalnum(static_cast<unsigned char>(c)));
-}
+using K = TSqlTokenKind;
 
 bool IsBlank(char16_t c) {
   return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n';
@@ -19,21 +17,12 @@ char16_t Lower(char16_t c) {
   return c >= u'A' && c <= u'Z' ? c + 32 : c;
 }
 
-// The end of the quoted literal that opens at `start` (one past its closing quote; a doubled
-// quote stays inside).
-size_t QuotedEnd(std::u16string_view s, size_t start, char16_t quote) {
-  size_t i = start + 1;
-  while (i < s.size()) {
-    if (s[i] == quote) {
-      if (i + 1 < s.size() && s[i + 1] == quote) {
-        i += 2;
-        continue;
-      }
-      return i + 1;
-    }
-    ++i;
-  }
-  return s.size();
+bool IsHigh(char16_t c) {
+  return c >= 0xD800 && c <= 0xDBFF;
+}
+
+bool IsLow(char16_t c) {
+  return c >= 0xDC00 && c <= 0xDFFF;
 }
 
 bool WordAt(std::u16string_view s, size_t i, std::u16string_view word) {
@@ -41,8 +30,8 @@ bool WordAt(std::u16string_view s, size_t i, std::u16string_view word) {
   for (size_t k = 0; k < word.size(); ++k) {
     if (Lower(s[i + k]) != word[k]) return false;
   }
-  const bool startOk = i == 0 || !IsNameChar(s[i - 1]);
-  const bool endOk = i + word.size() == s.size() || !IsNameChar(s[i + word.size()]);
+  const bool startOk = i == 0 || !IsSqlNameChar(s[i - 1]);
+  const bool endOk = i + word.size() == s.size() || !IsSqlNameChar(s[i + word.size()]);
   return startOk && endOk;
 }
 
@@ -54,7 +43,7 @@ size_t ConvertTypeEnd(std::u16string_view s, size_t i) {
   ++i;
   while (i < s.size() && IsBlank(s[i])) ++i;
   const size_t start = i;
-  while (i < s.size() && IsNameChar(s[i])) ++i;
+  while (i < s.size() && IsSqlNameChar(s[i])) ++i;
   if (i == start || !std::isalpha(static_cast<unsigned char>(s[start]))) return 0;
   size_t end = i;
   while (i < s.size() && IsBlank(s[i])) ++i;
@@ -67,55 +56,13 @@ size_t ConvertTypeEnd(std::u16string_view s, size_t i) {
   return i < s.size() && s[i] == u',' ? end : 0;
 }
 
-}  // namespace
-
-TPreparedSql PrepareSql(std::u16string_view commandText) {
-  const std::u16string text = modules::MV_WideVcLiteralsToSql(commandText);
-  TPreparedSql out;
-  size_t i = 0;
-  while (i < text.size()) {
-    const char16_t c = text[i];
-    if (c == u'\'') {
-      const size_t end = QuotedEnd(text, i, u'\'');
-      out.Sql.append(text, i, end - i);
-      i = end;
-    } else if (c == u':' && i + 1 < text.size() && text[i + 1] == u':') {
-      out.Sql += u':';
-      i += 2;
-    } else if (c == u':' && i + 1 < text.size() && IsNameChar(text[i + 1])) {
-      size_t end = i + 1;
-      while (end < text.size() && IsNameChar(text[end])) ++end;
-      out.Places.emplace_back(text.begin() + i + 1, text.begin() + end);
-      out.Sql += u'?';
-      i = end;
-    } else {
-      out.Sql += c;
-      ++i;
-    }
-  }
-  return out;
-}
-
-std::u16string SqliteDialect(std::u16string_view sql) {
-  std::u16string out;
-  size_t i = 0;
-  while (i < sql.size()) {
-    const char16_t c = sql[i];
-    if ((c == u'N' || c == u'n') && i + 1 < sql.size() && sql[i + 1] == u'\'' &&
-        (i == 0 || !IsNameChar(sql[i - 1]))) {
-      ++i;  // the national prefix; the literal follows as it is
-      continue;
-    }
-    if (c == u'\'') {
-      const size_t end = QuotedEnd(sql, i, u'\'');
-      out.append(sql, i, end - i);
-      i = end;
-      continue;
-    }
+// Appends the Text token `t` of `sql` with the type name of each CONVERT(type, ...) quoted.
+void AppendDialectText(std::u16string_view sql, const TSqlToken& t, std::u16string& out) {
+  size_t i = t.Start;
+  while (i < t.End) {
     if (WordAt(sql, i, u"convert")) {
-      if (const size_t typeEnd = ConvertTypeEnd(sql, i + 7); typeEnd != 0) {
-        const size_t open = sql.find(u'(', i + 7);
-        size_t start = open + 1;
+      if (const size_t typeEnd = ConvertTypeEnd(sql, i + 7); typeEnd != 0 && typeEnd <= t.End) {
+        size_t start = sql.find(u'(', i + 7) + 1;
         while (IsBlank(sql[start])) ++start;
         out.append(sql, i, start - i);
         out += u'\'';
@@ -125,34 +72,125 @@ std::u16string SqliteDialect(std::u16string_view sql) {
         continue;
       }
     }
-    out += c;
+    out += sql[i++];
+  }
+}
+
+// Appends the quoted literal `t` of `text`: bound as a place when it holds a NUL, written back
+// with its value requoted when "::" in it reads as ":", else as it stands.
+void AppendLiteral(std::u16string_view text, const TSqlToken& t, TPreparedSql& out) {
+  const std::u16string_view written = text.substr(t.Start, t.End - t.Start);
+  if (!t.Closed) {
+    out.Sql += written;
+    return;
+  }
+  const std::u16string value = LiteralValue(text, t);
+  if (value.find(u'\0') != std::u16string::npos) {
+    out.Sql += u'?';
+    out.Places.push_back({{}, value});
+    return;
+  }
+  if (written.find(u"::") == std::u16string_view::npos) {
+    out.Sql += written;
+    return;
+  }
+  if (t.Kind == K::NationalLiteral) out.Sql += written[0];
+  out.Sql += u'\'';
+  for (char16_t c : value) {
+    out.Sql += c;
+    if (c == u'\'') out.Sql += c;
+  }
+  out.Sql += u'\'';
+}
+
+// The end of the table name that starts at `i` (letters, digits, "_", ".", brackets, non-ASCII).
+size_t TableNameEnd(std::u16string_view sql, size_t i) {
+  while (i < sql.size() && (IsSqlNameChar(sql[i]) || sql[i] == u'.' || sql[i] == u'[' ||
+                            sql[i] == u']' || sql[i] >= 128)) {
     ++i;
+  }
+  return i;
+}
+
+// Where the word "from" of the outermost select stands, or npos.
+size_t OuterFrom(std::u16string_view sql) {
+  int depth = 0;
+  for (const TSqlToken& t : TokenizeSql(sql)) {
+    if (t.Kind != K::Text) continue;
+    for (size_t i = t.Start; i < t.End; ++i) {
+      if (sql[i] == u'(') ++depth;
+      if (sql[i] == u')') --depth;
+      if (depth == 0 && WordAt(sql, i, u"from")) return i;
+    }
+  }
+  return std::u16string_view::npos;
+}
+
+}  // namespace
+
+std::u16string WellFormedText(std::u16string_view text) {
+  std::u16string out(text);
+  for (size_t i = 0; i < out.size(); ++i) {
+    if (IsHigh(out[i]) && i + 1 < out.size() && IsLow(out[i + 1])) {
+      ++i;
+    } else if (IsHigh(out[i]) || IsLow(out[i])) {
+      out[i] = u'\xFFFD';
+    }
+  }
+  return out;
+}
+
+TPreparedSql PrepareSql(std::u16string_view commandText) {
+  const std::u16string text = WellFormedText(commandText);
+  TPreparedSql out;
+  out.Sql.reserve(text.size());
+  for (const TSqlToken& t : TokenizeSql(text)) {
+    switch (t.Kind) {
+      case K::Literal:
+      case K::NationalLiteral:
+        AppendLiteral(text, t, out);
+        break;
+      case K::Marked:
+        out.Sql += u'?';
+        out.Places.push_back({{}, LiteralValue(text, t)});
+        break;
+      case K::Parameter:
+        out.Sql += u'?';
+        out.Places.push_back({std::string(text.begin() + t.Start + 1, text.begin() + t.End), {}});
+        break;
+      case K::DoubleColon:
+        out.Sql += u':';
+        break;
+      case K::StrayMark:
+        break;
+      default:
+        out.Sql.append(text, t.Start, t.End - t.Start);
+    }
+  }
+  return out;
+}
+
+std::u16string SqliteDialect(std::u16string_view sql) {
+  std::u16string out;
+  out.reserve(sql.size());
+  for (const TSqlToken& t : TokenizeSql(sql)) {
+    if (t.Kind == K::Text) {
+      AppendDialectText(sql, t, out);
+    } else {
+      const size_t from = t.Kind == K::NationalLiteral ? t.Start + 1 : t.Start;  // drop the N
+      out.append(sql, from, t.End - from);
+    }
   }
   return out;
 }
 
 std::u16string SingleTableOf(std::u16string_view sql) {
-  size_t i = 0;
-  int depth = 0;
-  while (i < sql.size()) {
-    const char16_t c = sql[i];
-    if (c == u'\'' || c == u'"') {
-      i = QuotedEnd(sql, i, c);
-      continue;
-    }
-    if (c == u'(') ++depth;
-    if (c == u')') --depth;
-    if (depth == 0 && WordAt(sql, i, u"from")) break;
-    ++i;
-  }
-  if (i >= sql.size()) return {};
+  size_t i = OuterFrom(sql);
+  if (i == std::u16string_view::npos) return {};
   i += 4;
   while (i < sql.size() && IsBlank(sql[i])) ++i;
   const size_t start = i;
-  while (i < sql.size() && (IsNameChar(sql[i]) || sql[i] == u'.' || sql[i] == u'[' ||
-                            sql[i] == u']' || sql[i] >= 128)) {
-    ++i;
-  }
+  i = TableNameEnd(sql, i);
   if (start == i) return {};
   const std::u16string table(sql.substr(start, i - start));
   while (i < sql.size() && IsBlank(sql[i])) ++i;
