@@ -89,7 +89,8 @@ QSqlQuery RunQuery(const TMVADOQuery& query, bool forwardOnly) {
 }
 
 QSqlQuery RunQuery(const TMVADOQuery& query, std::u16string_view commandText, bool forwardOnly) {
-  const TPreparedSql prepared = PrepareSql(commandText);
+  const bool odbc = Connection(query.ConnectionName()).Backend == TBackend::Odbc;
+  const TPreparedSql prepared = PrepareSql(commandText, odbc);
   std::vector<TBoundValue> values;
   values.reserve(prepared.Places.size());
   const TParameters& params = query.Parameters();

@@ -1,5 +1,6 @@
 #include "platform/db/sql_text.h"
 
+#include <algorithm>
 #include <cctype>
 
 #include "platform/db/sql_tokens.h"
@@ -76,16 +77,23 @@ void AppendDialectText(std::u16string_view sql, const TSqlToken& t, std::u16stri
   }
 }
 
-// Appends the quoted literal `t` of `text`: bound as a place when it holds a NUL, written back
-// with its value requoted when "::" in it reads as ":", else as it stands.
-void AppendLiteral(std::u16string_view text, const TSqlToken& t, TPreparedSql& out) {
+bool Bound(std::u16string_view value, bool bindNonAscii) {
+  if (bindNonAscii)
+    return std::any_of(value.begin(), value.end(), [](char16_t c) { return c == 0 || c > 0x7F; });
+  return value.find(u'\0') != std::u16string_view::npos;
+}
+
+// Appends the quoted literal `t` of `text`: bound as a place when `Bound`, written back with its
+// value requoted when "::" in it reads as ":", else as it stands.
+void AppendLiteral(std::u16string_view text, const TSqlToken& t, bool bindNonAscii,
+                   TPreparedSql& out) {
   const std::u16string_view written = text.substr(t.Start, t.End - t.Start);
   if (!t.Closed) {
     out.Sql += written;
     return;
   }
   const std::u16string value = LiteralValue(text, t);
-  if (value.find(u'\0') != std::u16string::npos) {
+  if (Bound(value, bindNonAscii)) {
     out.Sql += u'?';
     out.Places.push_back({{}, value});
     return;
@@ -140,7 +148,7 @@ std::u16string WellFormedText(std::u16string_view text) {
   return out;
 }
 
-TPreparedSql PrepareSql(std::u16string_view commandText) {
+TPreparedSql PrepareSql(std::u16string_view commandText, bool bindNonAscii) {
   const std::u16string text = WellFormedText(commandText);
   TPreparedSql out;
   out.Sql.reserve(text.size());
@@ -148,7 +156,7 @@ TPreparedSql PrepareSql(std::u16string_view commandText) {
     switch (t.Kind) {
       case K::Literal:
       case K::NationalLiteral:
-        AppendLiteral(text, t, out);
+        AppendLiteral(text, t, bindNonAscii, out);
         break;
       case K::Marked:
         out.Sql += u'?';

@@ -23,10 +23,12 @@ struct TPreparedSql {
 
 // Wide `commandText` (SQL Server's dialect, marked literals allowed) made ready for a driver:
 // each ":name" outside quoted forms and comments a "?" place of that parameter; each marked
-// literal and each quoted literal holding a NUL a "?" place bound to the literal's text (never
-// written into the text); "::" one ":"; inside a quoted literal "::" after an odd number of
-// double quotes one ":"; a mark without a partner dropped; a lone surrogate U+FFFD.
-[[nodiscard]] TPreparedSql PrepareSql(std::u16string_view commandText);
+// literal and each quoted literal holding a NUL (or, with `bindNonAscii`, any character above
+// U+007F) a "?" place bound to the literal's text (never written into the text); "::" one ":";
+// inside a quoted literal "::" after an odd number of double quotes one ":"; a mark without a
+// partner dropped; a lone surrogate U+FFFD. ODBC connections bind non-ASCII literals, as drivers
+// convert a statement's text less faithfully than a bound wide text.
+[[nodiscard]] TPreparedSql PrepareSql(std::u16string_view commandText, bool bindNonAscii = false);
 
 // Wide `text` with every lone surrogate (a high one not followed by a low one, a low one not
 // after a high one) replaced by U+FFFD; well-formed text comes back unchanged.

@@ -95,6 +95,19 @@ TYPED_TEST(UserPreferenceTest, ATextThatDoesNotReadBackAsStoredIsSavedOver) {
   EXPECT_EQ(this->Stored("OTHER"), u"x=1");
 }
 
+// A NUL or a lone surrogate in a value loses nothing after it on either way to the database. The
+// SQLite ODBC driver cannot carry a NUL in a text, so there the NUL itself is U+FFFD.
+TYPED_TEST(UserPreferenceTest, NulsAndLoneSurrogatesInValuesLoseNothingAfterThem) {
+  using namespace std::string_literals;
+  SaveUserPreference(u"a", u"x\0y=z"s);
+  SaveUserPreference(u"b", u"\xD800'c");
+  SaveUserPreference(u"c", u"last\xDC00");
+  const std::u16string nul = std::is_same_v<TypeParam, OdbcBackend> ? u"\xFFFD" : u"\0"s;
+  EXPECT_EQ(this->Stored("DEMO"), u"a=x" + nul + u"y=z\r\nb=\xFFFD'c\r\nc=last\xFFFD\r\n");
+  EXPECT_EQ(GetUserPreference(u"a"), u"x" + nul + u"y=z");
+  EXPECT_EQ(GetUserPreference(u"c"), u"last\xFFFD");
+}
+
 TYPED_TEST(UserPreferenceTest, DatabaseErrorsAndRefusedValuesAreShownWithTheKeyAndTheReason) {
   // A value that would read back as other entries is refused, and nothing is stored.
   SaveUserPreference("a", "2\r\nevil=1");

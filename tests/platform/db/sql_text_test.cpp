@@ -43,6 +43,7 @@ TEST(PrepareSql, LoneSurrogatesBecomeReplacementCharacters) {
       PrepareSql(u"a='\xD800' or b=\x02\xDC00x\x02 or c='\xD83D\xDE00' or d=\xD800");
   EXPECT_EQ(p.Sql, u"a='\xFFFD' or b=? or c='\xD83D\xDE00' or d=\xFFFD");
   EXPECT_EQ(p.Places, (P{{"", u"\xFFFDx"}}));
+  EXPECT_EQ(PrepareSql(u"a='報' or b=N'x' or c=[報]", true).Places, (P{{"", u"報"}}));
   EXPECT_EQ(WellFormedText(u"\xDBFF\xDFFF\xDFFF\xDBFF"), u"\xDBFF\xDFFF\xFFFD\xFFFD");
 }
 
