@@ -1,8 +1,6 @@
 #include "common/processes/concurrent_right.h"
 
 #include <chrono>
-#include <filesystem>
-#include <system_error>
 #include <thread>
 
 #include "common/frame/shared_state.h"
@@ -32,8 +30,8 @@ class HourGlass {
 
 void MakeTempFolder() {
   const std::string folder = BasePath + "Temp";
-  std::error_code ignored;  // a folder that cannot be made shows as a failed open below
-  if (!files::DirectoryExists(folder)) std::filesystem::create_directory(folder, ignored);
+  // A folder that cannot be made shows as a failed open below.
+  if (!files::DirectoryExists(folder)) files::MakeDirectory(folder);
 }
 
 // One attempt of SetConcurrentRight: true when `handle` holds the right afterwards.

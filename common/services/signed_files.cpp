@@ -23,7 +23,7 @@ bool WriteParts(const TSignedParts& parts, const std::string& dataFile,
     files::ReplaceFileAtomically(sigFile, parts.Signature);
     return true;
   } catch (const files::EFileError&) {
-    if (dataWritten) std::remove(dataFile.c_str());
+    if (dataWritten) files::RemoveFile(dataFile);
     return false;
   }
 }

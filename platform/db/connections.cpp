@@ -7,10 +7,12 @@
 #include <QtSql/QSqlError>
 #include <algorithm>
 #include <map>
+#include <optional>
 
 #include "platform/db/connection_qt.h"
 #include "platform/db/db_error.h"
 #include "platform/db/sqlite_functions.h"
+#include "platform/files/file_names.h"
 
 namespace mv::db {
 namespace {
@@ -67,9 +69,14 @@ void OpenQt(const TConnectionInfo& info, std::string_view target) {
 
 void OpenConnection(std::string_view name, std::string_view connectionString) {
   TConnectionInfo info{std::string(name), std::string(connectionString), TBackend::SQLite};
-  std::string_view target;
+  std::string target;
   if (StartsWith(connectionString, "sqlite:")) {
-    target = connectionString.substr(7);
+    // PATH is a narrow path in the system code page; SQLite takes the system's file name bytes.
+    const std::optional<std::string> file = files::EncodeFileName(connectionString.substr(7));
+    if (!file) {
+      throw EDatabaseError("The database file name of " + info.Name + " holds a zero byte");
+    }
+    target = *file;
   } else if (StartsWith(connectionString, "odbc:")) {
     info.Backend = TBackend::Odbc;
     target = connectionString.substr(5);

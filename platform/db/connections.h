@@ -1,5 +1,6 @@
 // The process's named database connections. A connection string is "sqlite:PATH" (an existing
-// SQLite file, PATH in UTF-8; ":memory:" for a database in memory) or "odbc:<ODBC connection string>" (a DSN or a driver string such as
+// SQLite file, PATH a narrow path in the system code page; ":memory:" for a database in memory)
+// or "odbc:<ODBC connection string>" (a DSN or a driver string such as
 // "Driver={ODBC Driver 18 for SQL Server};Server=...;Database=...;UID=...;PWD=...").
 // Connections are opened and used on one thread, the user-interface thread.
 #pragma once

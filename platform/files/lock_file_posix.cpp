@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "platform/files/file_names.h"
 #include "platform/files/lock_file.h"
 
 namespace mv::files {
@@ -72,14 +73,22 @@ int32_t OpenAndLock(const std::string& path, int flags, TLockError& error) {
 }  // namespace
 
 int32_t LockFileExclusive(const std::string& path, TLockError& error) {
-  return OpenAndLock(path, O_WRONLY | O_CREAT, error);
+  const std::optional<std::string> name = EncodeFileName(path);
+  if (!name) {
+    error = TLockError::kOther;  // a zero byte in the name: no such file can exist
+    return kNoLock;
+  }
+  return OpenAndLock(*name, O_WRONLY | O_CREAT, error);
 }
 
 void UnlockFile(int32_t handle) {
   if (handle > 0) ::close(handle);
 }
 
-bool RemoveLockFile(const std::string& path) {
+bool RemoveLockFile(const std::string& lockPath) {
+  const std::optional<std::string> name = EncodeFileName(lockPath);
+  if (!name) return false;
+  const std::string& path = *name;
   TLockError ignored;  // any failure leaves the file; only its absence counts
   const int32_t handle = OpenAndLock(path, O_WRONLY, ignored);
   if (handle == kNoLock) return ::access(path.c_str(), F_OK) != 0 && errno == ENOENT;

@@ -5,14 +5,17 @@
 
 #include <cerrno>
 
+#include "platform/files/file_names.h"
 #include "platform/files/new_file.h"
 
 namespace mv::files {
 
 bool CreateNewFile(const std::string& path) {
+  const std::optional<std::string> name = EncodeFileName(path);
+  if (!name) return false;
   int fd;
   do {
-    fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    fd = ::open(name->c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
   } while (fd < 0 && errno == EINTR);
   if (fd < 0) return false;
   ::close(fd);
@@ -20,7 +23,9 @@ bool CreateNewFile(const std::string& path) {
 }
 
 bool BaseNameTaken(const std::string& folder, const std::string& baseName) {
-  DIR* dir = ::opendir(folder.empty() ? "." : folder.c_str());
+  const std::optional<std::string> systemFolder = EncodeFileName(folder);
+  if (!systemFolder) return false;
+  DIR* dir = ::opendir(folder.empty() ? "." : systemFolder->c_str());
   if (dir == nullptr) return false;
   bool taken = false;
   const size_t length = baseName.size();

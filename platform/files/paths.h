@@ -1,5 +1,7 @@
 // File-system facts the library needs: the path separator, existence checks, file names found
-// without regard to case, and whole-file reads and atomic replacement.
+// without regard to case, and whole-file reads and atomic replacement. Every path here is a
+// narrow path in the system code page; it reaches the system through EncodeFileName
+// (file_names.h), so a path that holds a zero byte names no file.
 #pragma once
 
 #include <optional>
@@ -23,6 +25,12 @@ bool DirectoryExists(const std::string& path);
 
 // True when `path` names an existing regular file.
 bool FileExists(const std::string& path);
+
+// Makes the folder `path` (its parent must exist); false when it cannot be made or exists.
+bool MakeDirectory(const std::string& path);
+
+// Removes the file `path`; false when it cannot be removed or does not exist.
+bool RemoveFile(const std::string& path);
 
 // `path` with its last component matched without regard to ASCII case inside its folder, so that
 // "SEDIFSYS.INI" finds "sedifsys.ini". An exact match wins; when nothing matches, `path` itself.

@@ -7,8 +7,10 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <memory>
 #include <sstream>
 
+#include "platform/files/file_names.h"
 #include "platform/files/paths.h"
 
 namespace mv::files {
@@ -31,16 +33,45 @@ bool WriteAll(int fd, std::string_view bytes) {
   return true;
 }
 
+// The file type bits of the narrow path `path`; 0 when it names nothing the system can see.
+mode_t FileType(const std::string& path) {
+  const std::optional<std::string> name = EncodeFileName(path);
+  struct stat st {};
+  if (path.empty() || !name || ::stat(name->c_str(), &st) != 0) return 0;
+  return st.st_mode & S_IFMT;
+}
+
+// The entry of the folder `folder` (system bytes) whose name matches `name` (system bytes)
+// without regard to ASCII case, in system bytes; nothing when there is none.
+std::optional<std::string> FindEntryIgnoringCase(const std::string& folder,
+                                                 const std::string& name) {
+  std::unique_ptr<DIR, int (*)(DIR*)> dir(::opendir(folder.empty() ? "." : folder.c_str()),
+                                          ::closedir);
+  if (!dir) return std::nullopt;
+  while (const dirent* entry = ::readdir(dir.get())) {
+    if (::strcasecmp(entry->d_name, name.c_str()) == 0) return std::string(entry->d_name);
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 bool DirectoryExists(const std::string& path) {
-  struct stat st {};
-  return !path.empty() && ::stat(path.c_str(), &st) == 0 && S_ISDIR(st.st_mode);
+  return FileType(path) == S_IFDIR;
 }
 
 bool FileExists(const std::string& path) {
-  struct stat st {};
-  return !path.empty() && ::stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode);
+  return FileType(path) == S_IFREG;
+}
+
+bool MakeDirectory(const std::string& path) {
+  const std::optional<std::string> name = EncodeFileName(path);
+  return name && ::mkdir(name->c_str(), 0777) == 0;
+}
+
+bool RemoveFile(const std::string& path) {
+  const std::optional<std::string> name = EncodeFileName(path);
+  return name && ::unlink(name->c_str()) == 0;
 }
 
 std::string ExtractFilePath(std::string_view path) {
@@ -54,25 +85,21 @@ std::string IncludeTrailingDelimiter(std::string path) {
 }
 
 std::string ResolveFileName(const std::string& path) {
-  struct stat st {};
-  if (path.empty() || ::stat(path.c_str(), &st) == 0) return path;
-  std::string folder = ExtractFilePath(path);
-  std::string name = path.substr(folder.size());
-  DIR* dir = ::opendir(folder.empty() ? "." : folder.c_str());
-  if (dir == nullptr) return path;
-  std::string found = path;
-  while (dirent* entry = ::readdir(dir)) {
-    if (::strcasecmp(entry->d_name, name.c_str()) == 0) {
-      found = folder + entry->d_name;
-      break;
-    }
-  }
-  ::closedir(dir);
-  return found;
+  if (path.empty() || FileType(path) != 0) return path;
+  const std::string folder = ExtractFilePath(path);
+  // Compared as the system's bytes, so that a trail byte of a Big5 or GBK character that happens
+  // to be an ASCII letter is never folded.
+  const std::optional<std::string> systemFolder = EncodeFileName(folder);
+  const std::optional<std::string> systemName = EncodeFileName(path.substr(folder.size()));
+  if (!systemFolder || !systemName) return path;
+  const std::optional<std::string> entry = FindEntryIgnoringCase(*systemFolder, *systemName);
+  return entry ? folder + DecodeFileName(*entry) : path;
 }
 
 std::optional<std::string> ReadWholeFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
+  const std::optional<std::string> name = EncodeFileName(path);
+  if (!name) return std::nullopt;
+  std::ifstream in(*name, std::ios::binary);
   if (!in) return std::nullopt;
   std::ostringstream out;
   out << in.rdbuf();
@@ -80,13 +107,15 @@ std::optional<std::string> ReadWholeFile(const std::string& path) {
 }
 
 void ReplaceFileAtomically(const std::string& path, std::string_view bytes) {
-  std::string temp = path + ".XXXXXX";
+  const std::optional<std::string> name = EncodeFileName(path);
+  if (!name) throw EFileError("Unable to write to " + path + ": the name holds a zero byte");
+  std::string temp = *name + ".XXXXXX";
   int fd = ::mkstemp(temp.data());
   if (fd < 0) throw EFileError(ErrnoText("Unable to write to", path));
   // Keep the permissions of the file being replaced; a new file gets the usual 0644 less umask.
   struct stat st {};
   mode_t mode = 0644;
-  if (::stat(path.c_str(), &st) == 0) {
+  if (::stat(name->c_str(), &st) == 0) {
     mode = st.st_mode & 07777;
   } else {
     mode_t mask = ::umask(0);
@@ -95,7 +124,7 @@ void ReplaceFileAtomically(const std::string& path, std::string_view bytes) {
   }
   bool ok = ::fchmod(fd, mode) == 0 && WriteAll(fd, bytes) && ::fsync(fd) == 0;
   ok = (::close(fd) == 0) && ok;
-  if (!ok || ::rename(temp.c_str(), path.c_str()) != 0) {
+  if (!ok || ::rename(temp.c_str(), name->c_str()) != 0) {
     std::string message = ErrnoText("Unable to write to", path);
     ::unlink(temp.c_str());
     throw EFileError(message);

@@ -1,5 +1,6 @@
 #include <dlfcn.h>
 
+#include "platform/files/file_names.h"
 #include "platform/modules/module_loader.h"
 
 namespace mv::modules {
@@ -19,7 +20,12 @@ std::string ModuleFileName(std::string_view baseName) {
 }
 
 ModuleHandle LoadModule(const std::string& path) {
-  void* handle = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
+  const std::optional<std::string> name = files::EncodeFileName(path);
+  if (!name) {
+    lastError = "the module name holds a zero byte";
+    return 0;
+  }
+  void* handle = ::dlopen(name->c_str(), RTLD_NOW | RTLD_LOCAL);
   if (handle == nullptr) RememberError();
   return reinterpret_cast<ModuleHandle>(handle);
 }

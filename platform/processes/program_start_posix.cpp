@@ -4,8 +4,10 @@
 #include <wordexp.h>
 
 #include <cerrno>
+#include <optional>
 #include <thread>
 
+#include "platform/files/file_names.h"
 #include "platform/processes/program_start.h"
 
 extern char** environ;
@@ -58,22 +60,28 @@ int Spawn(char* const* argv, TShowMode mode, pid_t& pid) {
   return error;
 }
 
+// Starts the program of the null-ended `argv` (system bytes) and leaves it to run by itself.
+int32_t SpawnDetached(char* const* argv, TShowMode mode) {
+  pid_t pid = 0;
+  const int error = Spawn(argv, mode, pid);
+  if (error == 0) CollectWhenDone(pid);
+  return StartResultOf(error);
+}
+
 }  // namespace
 
 int32_t StartProgram(const std::string& commandLine, TShowMode mode) {
+  // Split as UTF-8, whose multi-byte characters hold no ASCII bytes: a Big5 or GBK trail byte
+  // may be a backslash, a quote or a "$".
+  const std::optional<std::string> systemLine = files::EncodeFileName(commandLine);
+  if (!systemLine) return kStartNoCommand;
   wordexp_t words{};
-  const int split = ::wordexp(commandLine.c_str(), &words, WRDE_NOCMD);
+  const int split = ::wordexp(systemLine->c_str(), &words, WRDE_NOCMD);
   if (split != 0) {
     if (split == WRDE_NOSPACE) ::wordfree(&words);
     return kStartNoCommand;
   }
-  int32_t result = kStartNoCommand;
-  if (words.we_wordc > 0) {
-    pid_t pid = 0;
-    const int error = Spawn(words.we_wordv, mode, pid);
-    if (error == 0) CollectWhenDone(pid);
-    result = StartResultOf(error);
-  }
+  const int32_t result = words.we_wordc > 0 ? SpawnDetached(words.we_wordv, mode) : kStartNoCommand;
   ::wordfree(&words);
   return result;
 }

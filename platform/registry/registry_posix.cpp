@@ -4,6 +4,7 @@
 #include <set>
 
 #include "platform/codepage/codepage.h"
+#include "platform/files/file_names.h"
 #include "platform/files/paths.h"
 #include "platform/registry/reg_file_parser.h"
 #include "platform/registry/registry.h"
@@ -37,7 +38,7 @@ void ReportWarnings(const std::string& path, const std::vector<TRegWarning>& war
 std::string RegistryFilePath() {
   const char* env = std::getenv("MV_REGISTRY");
   std::string path = (env != nullptr && *env != '\0')
-                         ? std::string(env)
+                         ? files::DecodeFileName(env)
                          : files::IncludeTrailingDelimiter(sys::MachineFolder()) + "registry.reg";
   return files::ResolveFileName(path);
 }

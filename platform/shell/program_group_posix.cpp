@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/files/file_names.h"
 #include "platform/files/paths.h"
 #include "platform/shell/program_group.h"
 
@@ -19,10 +20,12 @@ bool IsDesktopEntryName(std::string_view name) {
 // The paths of the desktop entries in `folder`; none when it cannot be read.
 std::vector<std::string> DesktopEntries(const std::string& folder) {
   std::vector<std::string> paths;
-  std::unique_ptr<DIR, int (*)(DIR*)> dir(::opendir(folder.c_str()), ::closedir);
+  const std::optional<std::string> systemFolder = files::EncodeFileName(folder);
+  if (!systemFolder) return paths;
+  std::unique_ptr<DIR, int (*)(DIR*)> dir(::opendir(systemFolder->c_str()), ::closedir);
   if (!dir) return paths;
   while (const dirent* item = ::readdir(dir.get())) {
-    std::string path = folder + files::kPathDelim + item->d_name;
+    std::string path = folder + files::kPathDelim + files::DecodeFileName(item->d_name);
     if (IsDesktopEntryName(item->d_name) && files::FileExists(path)) paths.push_back(path);
   }
   return paths;

@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "platform/files/file_names.h"
 #include "platform/system/machine.h"
 
 namespace mv::sys {
@@ -20,7 +21,8 @@ std::string& TitleOverride() {
 
 std::string MachineFolder() {
   const char* env = std::getenv("MV_MACHINE_DIR");
-  std::string folder = (env != nullptr && *env != '\0') ? env : "/etc/mvcommon";
+  std::string folder =
+      (env != nullptr && *env != '\0') ? files::DecodeFileName(env) : "/etc/mvcommon";
   while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
   return folder;
 }
@@ -30,7 +32,7 @@ std::string ExecutablePath() {
   ssize_t n = ::readlink("/proc/self/exe", buffer.data(), buffer.size());
   if (n <= 0) return {};
   buffer.resize(static_cast<size_t>(n));
-  return buffer;
+  return files::DecodeFileName(buffer);
 }
 
 std::string ApplicationTitle() {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "common/frame/startup.h"
+#include "platform/files/file_names.h"
 
 namespace mv::cli {
 namespace {
@@ -72,7 +73,17 @@ void UseInstallationOptions(const ParsedArgs& args) {
     ::setenv("MV_MACHINE_DIR", machineDir->c_str(), 1);
     ::unsetenv("MV_REGISTRY");
   }
-  if (auto serverPath = args.Option("server-path")) SetServerPathOverride(*serverPath);
+  if (auto serverPath = args.Option("server-path")) {
+    SetServerPathOverride(PathArgument(*serverPath));
+  }
+}
+
+std::string PathArgument(std::string_view argument) {
+  return files::DecodeFileName(argument);
+}
+
+std::string PrintedPath(const std::string& path) {
+  return files::EncodeFileName(path).value_or(path);
 }
 
 }  // namespace mv::cli

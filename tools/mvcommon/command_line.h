@@ -59,7 +59,15 @@ std::vector<const Command*> RegisteredCommands();
 
 // Uses the options --machine-dir and --server-path when given: the machine folder becomes
 // MV_MACHINE_DIR (and MV_REGISTRY is dropped, so that the registry file in that folder counts);
-// the server folder replaces the registry's ServerPath. Both are used as given.
+// the server folder replaces the registry's ServerPath. Both are file names as PathArgument reads
+// them.
 void UseInstallationOptions(const ParsedArgs& args);
+
+// A file name given on the command line (the system's bytes, UTF-8) as a narrow path of the
+// library, in the system code page (files::DecodeFileName).
+std::string PathArgument(std::string_view argument);
+
+// A narrow path of the library as the bytes to print: the system's, as the user would type them.
+std::string PrintedPath(const std::string& path);
 
 }  // namespace mv::cli

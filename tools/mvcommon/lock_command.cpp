@@ -87,7 +87,7 @@ int Run(const ParsedArgs& args) {
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
   const std::optional<std::string> basePath = args.Option("base-path");
   if (basePath) {
-    BasePath = files::IncludeTrailingDelimiter(*basePath);
+    BasePath = files::IncludeTrailingDelimiter(PathArgument(*basePath));
   } else {
     Init();
   }

@@ -32,11 +32,11 @@ void PrintLine(const std::string& text) {
 int Run(const ParsedArgs& args) {
   if (args.positionals.size() != 1) throw UsageError("FILE is needed");
   std::string dataFile, sigFile;
-  const int code = XMLInitMsgList(args.positionals[0], dataFile, sigFile);
+  const int code = XMLInitMsgList(PathArgument(args.positionals[0]), dataFile, sigFile);
   PrintLine(std::to_string(code));
   if (code != kSplitDone) return 1;
-  PrintLine(dataFile);
-  PrintLine(sigFile);
+  PrintLine(PrintedPath(dataFile));
+  PrintLine(PrintedPath(sigFile));
   return 0;
 }
 

@@ -24,8 +24,9 @@ constexpr std::string_view kUsage =
 int Run(const ParsedArgs& args) {
   if (args.positionals.size() != 2) throw UsageError("FOLDER and EXT are needed");
   std::string name;
-  const int32_t result = GetTemporaryFile(args.positionals[0], args.positionals[1], name);
-  const std::string text = std::to_string(result) + "\n" + name + "\n";
+  const int32_t result =
+      GetTemporaryFile(PathArgument(args.positionals[0]), PathArgument(args.positionals[1]), name);
+  const std::string text = std::to_string(result) + "\n" + PrintedPath(name) + "\n";
   std::fwrite(text.data(), 1, text.size(), stdout);
   return result == 0 ? 0 : 3;
 }

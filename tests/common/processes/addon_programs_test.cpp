@@ -58,6 +58,14 @@ TEST_F(AddonProgramsTest, ProgramsStartHiddenOrSayWhyNotAndHaveNoWindow) {
   EXPECT_EQ(RunDOS(plain), 11);
 }
 
+// A Big5 character whose trail byte is a backslash stays whole when the command line is split.
+TEST_F(AddonProgramsTest, CommandLinesInBig5KeepTheirCharactersWhole) {
+  ScopedEnv codePage("MV_CODEPAGE", "950");
+  ::chmod(dir_.Write("功能/run", "#!/bin/sh\n" + Writes("echo \"$1\"", "out")).c_str(), 0755);
+  EXPECT_GE(RunDOS(dir_.path() + "/\xA5\x5C\xAF\xE0/run \xA5\x5C"), 32);  // 功能/run 功
+  EXPECT_EQ(WaitForFile("out"), "功\n");
+}
+
 TEST_F(AddonProgramsTest, CallHookStartsTheAddonForTheUserOrSaysWhyNotInTheUsersLanguage) {
   ServerPath = dir_.path() + "/";
   UserRecord.UserID = "ALICE";
