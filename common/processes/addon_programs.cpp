@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <stdexcept>
+#include <vector>
 
 #include "common/frame/shared_state.h"
 #include "common/text/lang_changer.h"
@@ -27,8 +28,9 @@ constexpr uint32_t kAnswerToCommand = 3;
 processes::TWindowHandle OpenAddonWindow(const std::string& caption, const std::string& program) {
   processes::TWindowHandle window = processes::FindTopLevelWindow(caption);
   if (window != 0) return window;
-  const std::string commandLine = ServerPath + program + " " + UserRecord.UserID;
-  if (processes::StartProgram(commandLine, processes::smNormal) < kLowestStarted) {
+  // As a list, so that a blank in the server folder or a quote in the user id is just a character.
+  const std::vector<std::string> arguments = {ServerPath + program, UserRecord.UserID};
+  if (processes::StartProgramArgs(arguments, processes::smNormal) < kLowestStarted) {
     const modules::TFormatArg args[] = {program};
     RaiseBilingual("Cannot run program: %s", "無法執行: %s", args);
   }

@@ -35,11 +35,12 @@ int32_t RunDOS(const std::string& commandLine);
 
 // Sends the command `code` with `parameter` to the add-on whose main window has the caption
 // `caption` and returns its 16-bit answer (AddonResult). When the window is not open, starts
-// ServerPath + `program` + " " + the user id (window shown) and waits for the window, keeping the
-// user interface alive, for up to 60 seconds. Then sets AddonDone to false, posts the two hook
-// messages, and handles the client's messages until AddonDone is true or the application is
-// ending; there is no time limit on that wait, so an add-on that never answers keeps the client
-// waiting until it ends.
+// the program ServerPath + `program` with the user id as its one argument (window shown; both
+// handed over whole, so blanks and quotes in them are ordinary characters) and waits for the
+// window, keeping the user interface alive, for up to 60 seconds. Then sets AddonDone to false,
+// posts the two hook messages, and handles the client's messages until AddonDone is true or the
+// application is ending; there is no time limit on that wait, so an add-on that never answers
+// keeps the client waiting until it ends.
 // Raises std::runtime_error with the text of the current language, narrow: "Cannot run program:
 // <program>" / "無法執行: <program>" when the program cannot be started, "No response from program:
 // <caption>" / "沒有回應: <caption>" when its window does not appear in time.

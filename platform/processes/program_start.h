@@ -1,8 +1,10 @@
-// Starting another program by its command line, without waiting for it.
+// Starting another program by its command line or by its list of arguments, without waiting for
+// it.
 #pragma once
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace mv::processes {
 
@@ -13,7 +15,7 @@ enum TShowMode { smHidden, smNormal };
 inline constexpr int32_t kStarted = 33;
 // Start results below 32: why the program did not start.
 inline constexpr int32_t kStartNoCommand = 0;     // empty command line, one that cannot be split,
-                                                  // or one holding a zero byte
+                                                  // or a zero byte in a name or argument
 inline constexpr int32_t kStartNotFound = 2;      // no such program
 inline constexpr int32_t kStartPathNotFound = 3;  // a folder on the program's path is missing
 inline constexpr int32_t kStartDenied = 5;        // the program may not be run
@@ -32,5 +34,15 @@ inline constexpr int32_t kStartBadFormat = 11;    // the file is not a program t
 // in a session of its own. smHidden gives it no terminal: its standard input, output and error
 // are /dev/null. smNormal lets it share the caller's.
 int32_t StartProgram(const std::string& commandLine, TShowMode mode);
+
+// Starts the program `arguments[0]` with the arguments after it, each handed over whole as it
+// stands (blanks, quotes, backslashes and "$" are ordinary characters; nothing is split or
+// expanded), and returns the start result as StartProgram does; kStartNoCommand for an empty list
+// or program name. Every element is narrow text in the system code page.
+// POSIX: each element reaches the program in UTF-8 (files::EncodeFileName); a zero byte in one
+// gives kStartNoCommand. A program name without "/" is looked up on PATH.
+// Windows: the list is written as a command line that the program's start-up splits back into
+// the same arguments.
+int32_t StartProgramArgs(const std::vector<std::string>& arguments, TShowMode mode);
 
 }  // namespace mv::processes

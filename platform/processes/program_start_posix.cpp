@@ -86,4 +86,18 @@ int32_t StartProgram(const std::string& commandLine, TShowMode mode) {
   return result;
 }
 
+int32_t StartProgramArgs(const std::vector<std::string>& arguments, TShowMode mode) {
+  if (arguments.empty() || arguments.front().empty()) return kStartNoCommand;
+  std::vector<std::string> systemArguments;
+  for (const std::string& argument : arguments) {
+    std::optional<std::string> bytes = files::EncodeFileName(argument);
+    if (!bytes) return kStartNoCommand;
+    systemArguments.push_back(std::move(*bytes));
+  }
+  std::vector<char*> argv;
+  for (std::string& argument : systemArguments) argv.push_back(argument.data());
+  argv.push_back(nullptr);
+  return SpawnDetached(argv.data(), mode);
+}
+
 }  // namespace mv::processes

@@ -66,19 +66,23 @@ TEST_F(AddonProgramsTest, CommandLinesInBig5KeepTheirCharactersWhole) {
   EXPECT_EQ(WaitForFile("out"), "功\n");
 }
 
+// The add-on is started with the user id as its one argument, whatever blanks and quotes the
+// server folder and the user id hold.
 TEST_F(AddonProgramsTest, CallHookStartsTheAddonForTheUserOrSaysWhyNotInTheUsersLanguage) {
-  ServerPath = dir_.path() + "/";
-  UserRecord.UserID = "ALICE";
+  ServerPath = dir_.File("add ons") + "/";
+  UserRecord.UserID = "AL\"I'CE $HOME";
   ScopedEnv codePage("MV_CODEPAGE", "950");
   LangChanger().SetLanguage(1);
   EXPECT_EQ(CallHookError(), "Cannot run program: stockmgr");
   LangChanger().SetLanguage(0);
   EXPECT_EQ(codepage::Utf8FromWide(codepage::ToWide(CallHookError(), 950)), "無法執行: stockmgr");
-  ::chmod(dir_.Write("stockmgr", "#!/bin/sh\n" + Writes("echo \"$@\"", "args")).c_str(), 0755);
+  ::chmod(dir_.Write("add ons/stockmgr", "#!/bin/sh\n" + Writes("printf '%s|' $# \"$@\"", "args"))
+              .c_str(),
+          0755);
   AddonDone = true;
   LangChanger().SetLanguage(1);
   EXPECT_EQ(CallHookError(), "No response from program: Stock Manager");
-  EXPECT_EQ(WaitForFile("args"), "ALICE\n");
+  EXPECT_EQ(WaitForFile("args"), "1|AL\"I'CE $HOME|");
   EXPECT_TRUE(AddonDone);  // nothing was posted: the handshake never began
 }
 
