@@ -1,7 +1,6 @@
 #include "common/services/signed_files.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <optional>
 
 #include "common/services/msg_fields.h"
