@@ -1,7 +1,6 @@
 #include "tests/common/search/search_oracle.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "common/search/add_wildcard.h"
 #include "common/search/query_text.h"
@@ -151,9 +150,11 @@ std::u16string StoredText(std::u16string_view text) {
 
 std::set<int> ReferenceSelect(std::u16string_view pattern, const std::vector<TRef>& rows) {
   std::vector<std::u16string_view> terms;
-  for (const auto piece : std::views::split(pattern, u'|')) {
-    const std::u16string_view term(piece.begin(), piece.end());
+  for (size_t from = 0; from <= pattern.size();) {
+    const size_t bar = std::min(pattern.find(u'|', from), pattern.size());
+    const std::u16string_view term = pattern.substr(from, bar - from);
     if (!term.empty() && term != u"..") terms.push_back(term);
+    from = bar + 1;
   }
   return IdsWhere(rows, [&](const TRef& row) {
     if (terms.empty()) return true;
@@ -170,13 +171,33 @@ TInjectionTable::TInjectionTable(std::vector<TRef> rows) {
   command.Execute();
   command.SetCommandText("insert into Canary values ('kept')");
   command.Execute();
-  command.SetCommandText(u"insert into Refs (Id, MsgRef) values (:id, :ref)");
-  for (size_t i = 0; i < rows.size(); ++i) {
-    command.Parameters()[0].Value = db::Variant(static_cast<int>(i));
-    command.Parameters()[1].Value = rows[i] ? db::Variant(*rows[i]) : db::Variant();
-    command.Execute();
-    rows_.push_back(rows[i] ? TRef(StoredText(*rows[i])) : TRef());
+  for (const TRef& row : rows) {
+    if (row) {
+      Push(*row);
+    } else {
+      command.SetCommandText("insert into Refs (Id, MsgRef) values (:id, NULL)");
+      command.Parameters()[0].Value = db::Variant(static_cast<int>(rows_.size()));
+      command.Execute();
+      rows_.emplace_back();
+    }
   }
+}
+
+void TInjectionTable::Push(const std::u16string& text) {
+  db::TMVADOCommand command;
+  command.SetCommandText(u"insert into Refs (Id, MsgRef) values (:id, :ref)");
+  command.Parameters()[0].Value = db::Variant(static_cast<int>(rows_.size()));
+  command.Parameters()[1].Value = db::Variant(text);
+  command.Execute();
+  rows_.push_back(StoredText(text));
+}
+
+void TInjectionTable::Pop() {
+  db::TMVADOCommand command;
+  command.SetCommandText(u"delete from Refs where Id = :id");
+  command.Parameters()[0].Value = db::Variant(static_cast<int>(rows_.size() - 1));
+  command.Execute();
+  rows_.pop_back();
 }
 
 std::set<int> TInjectionTable::Select(TBuilder builder, const std::u16string& wide,

@@ -49,6 +49,9 @@ class TInjectionTable {
   // The ids `builder` should select.
   std::set<int> Expected(TBuilder builder, const std::u16string& wide,
                          const std::string& narrow) const;
+  // Adds a row holding `text` (the last), or takes the last row out again.
+  void Push(const std::u16string& text);
+  void Pop();
   // Whether the canary row is still there, alone and unchanged.
   static bool CanaryIntact();
   const std::vector<TRef>& Rows() const { return rows_; }
