@@ -10,8 +10,12 @@ namespace {
 std::u16string ConnectingWord(bool addWhere, bool useOr, std::string_view joiner) {
   if (addWhere) return u" Where ";
   if (useOr) return u" or ";
-  if (!joiner.empty()) return u" " + MV_AnsiToWideString(joiner) + u" ";
-  return u" and ";
+  if (joiner.empty()) return u" and ";
+  // Appended piece by piece, as operator+ chains on temporaries trip GCC 12's -Wrestrict at -O3.
+  std::u16string word(1, u' ');
+  word += MV_AnsiToWideString(joiner);
+  word += u' ';
+  return word;
 }
 
 // Appends `condition` with its literals made parameters, then `tail`; the query's own parameters
@@ -47,7 +51,10 @@ void AddWildCard(db::TMVADOQuery& query, std::span<const std::string> fieldNames
     if (condition.empty()) continue;
     const std::string_view joiner =
         i < joiners.size() ? std::string_view(joiners[i]) : std::string_view();
-    conditions += u" " + MV_AnsiToWideString(joiner) + u" " + condition;
+    conditions += u' ';
+    conditions += MV_AnsiToWideString(joiner);
+    conditions += u' ';
+    conditions += condition;
   }
   AttachCondition(query, conditions, u" ");
 }

@@ -26,7 +26,16 @@ std::u16string AddWildCard(std::string_view fieldName, std::u16string_view patte
                            std::string_view joiner) {
   std::u16string condition = ChangeWildCard(fieldName, pattern, false, true);
   if (condition.empty()) return {};
-  return u" " + MV_AnsiToWideString(joiner) + u" " + condition;
+  // Appended piece by piece: a chain of operator+ on temporaries makes GCC 12 at -O3 see an
+  // overlapping copy (-Wrestrict) where there is none.
+  const std::u16string word = MV_AnsiToWideString(joiner);
+  std::u16string out;
+  out.reserve(word.size() + condition.size() + 2);
+  out += u' ';
+  out += word;
+  out += u' ';
+  out += condition;
+  return out;
 }
 
 std::string StrSQLCond(std::string_view fieldName, std::u16string_view value) {
