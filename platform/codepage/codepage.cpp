@@ -6,8 +6,8 @@
 #include <climits>
 #include <cstdint>
 
-#include "platform/codepage/converter_cache.h"
-#include "platform/codepage/locale_codepage.h"
+#include "platform/codepage/converter_cache_p.h"
+#include "platform/codepage/locale_codepage_p.h"
 
 namespace mv::codepage {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "platform/codepage/codepage.h"
 #include "platform/codepage/language.h"
-#include "platform/codepage/locale_language.h"
+#include "platform/codepage/locale_language_p.h"
 
 namespace mv::codepage {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/codepage/converter_cache.h"
+#include "platform/codepage/converter_cache_p.h"
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_cb.h>

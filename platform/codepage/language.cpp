@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/codepage/locale_language.h"
+#include "platform/codepage/locale_language_p.h"
 
 namespace mv::codepage {
 namespace {

@@ -2,7 +2,7 @@
 #include <initializer_list>
 #include <string>
 
-#include "platform/codepage/locale_language.h"
+#include "platform/codepage/locale_language_p.h"
 
 namespace mv::codepage {
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/codepage/locale_codepage.h"
+#include "platform/codepage/locale_codepage_p.h"
 
 namespace mv::codepage {
 

@@ -6,7 +6,7 @@
 #include <numeric>
 
 #include "platform/codepage/codepage.h"
-#include "platform/codepage/converter_cache.h"
+#include "platform/codepage/converter_cache_p.h"
 
 namespace mv::codepage {
 namespace {

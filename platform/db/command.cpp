@@ -1,6 +1,6 @@
 #include "platform/db/command.h"
 
-#include "platform/db/run_query.h"
+#include "platform/db/run_query_p.h"
 
 namespace mv::db {
 

@@ -9,9 +9,9 @@
 #include <map>
 #include <optional>
 
-#include "platform/db/connection_qt.h"
+#include "platform/db/connection_qt_p.h"
 #include "platform/db/db_error.h"
-#include "platform/db/sqlite_functions.h"
+#include "platform/db/sqlite_functions_p.h"
 #include "platform/files/file_names.h"
 
 namespace mv::db {

@@ -3,14 +3,14 @@
 
 #include <QtSql/QSqlDriver>
 
-#include "platform/db/connection_qt.h"
+#include "platform/db/connection_qt_p.h"
 #include "platform/db/dataset.h"
-#include "platform/db/dataset_impl.h"
+#include "platform/db/dataset_impl_p.h"
 #include "platform/db/db_error.h"
 #include "platform/db/lock_wait_p.h"
-#include "platform/db/qt_values.h"
+#include "platform/db/qt_values_p.h"
 #include "platform/db/row_keys_p.h"
-#include "platform/db/run_query.h"
+#include "platform/db/run_query_p.h"
 
 namespace mv::db {
 namespace {

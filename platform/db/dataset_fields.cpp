@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/db/dataset.h"
-#include "platform/db/dataset_impl.h"
+#include "platform/db/dataset_impl_p.h"
 #include "platform/db/db_error.h"
 #include "platform/db/wide_literals.h"
 

@@ -1,4 +1,4 @@
-#include "platform/db/day_number.h"
+#include "platform/db/day_number_p.h"
 
 #include <cmath>
 #include <cstdio>

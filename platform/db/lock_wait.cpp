@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "platform/db/connection_qt.h"
+#include "platform/db/connection_qt_p.h"
 #include "platform/db/lock_wait_p.h"
 
 namespace mv::db {

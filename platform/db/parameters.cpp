@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "platform/db/db_error.h"
-#include "platform/db/sql_text.h"
+#include "platform/db/sql_text_p.h"
 
 namespace mv::db {
 namespace {

@@ -1,10 +1,10 @@
-#include "platform/db/qt_values.h"
+#include "platform/db/qt_values_p.h"
 
 #include <QtCore/QDateTime>
 
 #include "platform/codepage/codepage.h"
-#include "platform/db/day_number.h"
-#include "platform/db/sql_text.h"
+#include "platform/db/day_number_p.h"
+#include "platform/db/sql_text_p.h"
 
 namespace mv::db {
 namespace {

@@ -2,9 +2,9 @@
 #include <QtSql/QSqlIndex>
 #include <algorithm>
 
-#include "platform/db/connection_qt.h"
+#include "platform/db/connection_qt_p.h"
 #include "platform/db/row_keys_p.h"
-#include "platform/db/run_query.h"
+#include "platform/db/run_query_p.h"
 
 namespace mv::db {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/db/sql_text.h"
+#include "platform/db/sql_text_p.h"
 
 #include <algorithm>
 #include <cctype>

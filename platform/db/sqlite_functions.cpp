@@ -1,4 +1,4 @@
-#include "platform/db/sqlite_functions.h"
+#include "platform/db/sqlite_functions_p.h"
 
 #include <sqlite3.h>
 
@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/db/day_number.h"
+#include "platform/db/day_number_p.h"
 
 namespace mv::db {
 namespace {

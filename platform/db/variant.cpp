@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "platform/codepage/codepage.h"
-#include "platform/db/day_number.h"
+#include "platform/db/day_number_p.h"
 
 namespace mv::db {
 namespace {

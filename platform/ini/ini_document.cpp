@@ -1,4 +1,4 @@
-#include "platform/ini/ini_document.h"
+#include "platform/ini/ini_document_p.h"
 
 namespace mv::ini::detail {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/ini/ini_encoding.h"
+#include "platform/ini/ini_encoding_p.h"
 
 namespace mv::ini::detail {
 namespace {

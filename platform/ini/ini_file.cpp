@@ -8,10 +8,10 @@
 #include <variant>
 
 #include "platform/codepage/codepage.h"
-#include "platform/ini/ini_document.h"
-#include "platform/ini/ini_encoding.h"
-#include "platform/ini/ini_lead_bytes.h"
-#include "platform/ini/ini_numbers.h"
+#include "platform/ini/ini_document_p.h"
+#include "platform/ini/ini_encoding_p.h"
+#include "platform/ini/ini_lead_bytes_p.h"
+#include "platform/ini/ini_numbers_p.h"
 #include "platform/ini/ini_write_lock_p.h"
 #include "platform/system/machine.h"
 

@@ -1,4 +1,4 @@
-#include "platform/ini/ini_lead_bytes.h"
+#include "platform/ini/ini_lead_bytes_p.h"
 
 #include <unicode/ucnv.h>
 

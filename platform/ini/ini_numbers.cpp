@@ -1,4 +1,4 @@
-#include "platform/ini/ini_numbers.h"
+#include "platform/ini/ini_numbers_p.h"
 
 #include <charconv>
 #include <system_error>

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/db/parameters.h"
-#include "platform/db/sql_text.h"
+#include "platform/db/sql_text_p.h"
 
 namespace mv::db {
 namespace {

@@ -1,7 +1,7 @@
 // Values and day numbers.
 #include <gtest/gtest.h>
 
-#include "platform/db/day_number.h"
+#include "platform/db/day_number_p.h"
 #include "platform/db/field_types.h"
 #include "platform/db/variant.h"
 

@@ -2,7 +2,7 @@
 // second byte of a Big5 or GBK character for "]" or for a letter to fold.
 #pragma once
 
-#include "platform/ini/ini_text.h"
+#include "platform/ini/ini_text_p.h"
 
 namespace mv::ini::detail {
 

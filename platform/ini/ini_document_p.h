@@ -20,7 +20,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/ini/ini_text.h"
+#include "platform/ini/ini_text_p.h"
 
 namespace mv::ini::detail {
 
