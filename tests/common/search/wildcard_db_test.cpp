@@ -1,7 +1,6 @@
 // Search patterns attached with AddWildCard and run on a SQLite table of generated message
-// references, against a matcher of the pattern language written here over the same rows. The
-// matcher follows what SQLite does with the conditions: "=" and the range bounds compare exactly
-// (code point order), like ignores the case of ASCII letters only, "_" of like is one character.
+// references, against the reference matcher of the pattern language (search_oracle.h) over the
+// same rows.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,70 +14,11 @@
 #include "common/search/add_wildcard.h"
 #include "platform/codepage/codepage.h"
 #include "platform/db/dataset.h"
+#include "tests/common/search/search_oracle.h"
 #include "tests/platform/db/db_fixture.h"
 
 namespace mv::test {
 namespace {
-
-using TRef = std::optional<std::u16string>;  // no value: NULL
-
-// ---- The reference matcher -------------------------------------------------------------------
-
-char16_t Folded(char16_t c) {
-  return c >= u'A' && c <= u'Z' ? c + (u'a' - u'A') : c;
-}
-
-// "*" any run, "?" one character, everything else itself, ASCII letters in either case.
-bool GlobMatches(std::u16string_view glob, std::u16string_view text) {
-  if (glob.empty()) return text.empty();
-  if (glob[0] == u'*')
-    return GlobMatches(glob.substr(1), text) ||
-           (!text.empty() && GlobMatches(glob, text.substr(1)));
-  return !text.empty() && (glob[0] == u'?' || Folded(glob[0]) == Folded(text[0])) &&
-         GlobMatches(glob.substr(1), text.substr(1));
-}
-
-// The code point order SQLite compares text in (its UTF-8 bytes).
-int Compare(std::u16string_view a, std::u16string_view b) {
-  return codepage::Utf8FromWide(a).compare(codepage::Utf8FromWide(b));
-}
-
-// One alternative of a pattern, neither empty nor "..": a range, a like or an exact match.
-bool TermMatches(std::u16string_view term, std::u16string_view ref) {
-  if (const size_t at = term.find(u".."); at != std::u16string_view::npos) {
-    const std::u16string_view low = term.substr(0, at);
-    const std::u16string_view high = term.substr(at + 2);
-    return (low.empty() || Compare(ref, low) >= 0) && (high.empty() || Compare(ref, high) <= 0);
-  }
-  if (term.find_first_of(u"*?_%[!") != std::u16string_view::npos) return GlobMatches(term, ref);
-  return ref == term;
-}
-
-// Blanks, or stars between blanks, match every row, NULLs too.
-bool MatchesAll(std::u16string_view pattern) {
-  const size_t stars = std::min(pattern.find_first_not_of(u' '), pattern.size());
-  const size_t after = pattern.find_first_not_of(u'*', stars);
-  return !pattern.empty() && (after == std::u16string_view::npos ||
-                              pattern.find_first_not_of(u' ', after) == std::u16string_view::npos);
-}
-
-// The ids (positions) of the rows the pattern selects.
-std::set<int> ReferenceSelect(std::u16string_view pattern, const std::vector<TRef>& rows) {
-  std::vector<std::u16string_view> terms;
-  for (const auto piece : std::views::split(pattern, u'|')) {
-    const std::u16string_view term(piece.begin(), piece.end());
-    if (!term.empty() && term != u"..") terms.push_back(term);
-  }
-  const auto hit = [&](const TRef& row) {
-    if (terms.empty()) return true;
-    if (!row) return MatchesAll(pattern);
-    return std::ranges::any_of(terms, [&](auto term) { return TermMatches(term, *row); });
-  };
-  std::set<int> ids;
-  for (size_t i = 0; i < rows.size(); ++i)
-    if (hit(rows[i])) ids.insert(static_cast<int>(i));
-  return ids;
-}
 
 // ---- The database ------------------------------------------------------------------------
 
