@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "platform/db/sql_tokens.h"
+#include "platform/db/sql_tokens_p.h"
 
 namespace mv::db {
 namespace {

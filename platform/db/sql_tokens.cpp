@@ -1,4 +1,4 @@
-#include "platform/db/sql_tokens.h"
+#include "platform/db/sql_tokens_p.h"
 
 #include "platform/db/wide_literals.h"
 
