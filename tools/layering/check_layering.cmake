@@ -13,6 +13,9 @@
 if(NOT ROOT OR NOT IS_DIRECTORY "${ROOT}")
   message(FATAL_ERROR "ROOT must name the source tree to check")
 endif()
+# A relative ROOT ("." from the shell) is read from the current folder; the globs below need it
+# absolute.
+get_filename_component(ROOT "${ROOT}" ABSOLUTE)
 if(NOT QT_INCLUDE_DIR)
   execute_process(COMMAND qtpaths6 --query QT_INSTALL_HEADERS OUTPUT_VARIABLE QT_INCLUDE_DIR
                   OUTPUT_STRIP_TRAILING_WHITESPACE RESULT_VARIABLE qtpaths_result)
@@ -135,6 +138,9 @@ foreach(file IN LISTS files)
 endforeach()
 
 list(LENGTH files checked)
+if(checked EQUAL 0)
+  message(FATAL_ERROR "no source file found under ${ROOT}/platform, modules or common")
+endif()
 list(LENGTH violations broken)
 foreach(violation IN LISTS violations)
   message(NOTICE "${violation}")
