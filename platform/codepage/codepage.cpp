@@ -115,14 +115,21 @@ bool IsMappable(std::u16string_view text, int codePage) {
   ucnv_resetFromUnicode(conv);
   const UChar* source = text.data();
   const UChar* sourceEnd = source + CheckedLength(text.size());
+  std::string bytes;
   char scratch[1024];
   for (;;) {
     char* target = scratch;
     UErrorCode status = U_ZERO_ERROR;
     ucnv_fromUnicode(conv, &target, scratch + sizeof scratch, &source, sourceEnd, nullptr, true,
                      &status);
-    if (status != U_BUFFER_OVERFLOW_ERROR) return U_SUCCESS(status);
+    bytes.append(scratch, target);
+    if (status == U_BUFFER_OVERFLOW_ERROR) continue;
+    if (U_FAILURE(status)) return false;
+    break;
   }
+  // A one-way row (Shift-JIS takes U+F86F as 8782, which reads back as U+2116) passes the strict
+  // converter but does not give the character back.
+  return ToWide(bytes, codePage) == text;
 }
 
 std::string Convert(std::string_view text, int fromCodePage, int toCodePage) {

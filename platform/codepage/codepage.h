@@ -47,10 +47,10 @@ std::u16string ToWide(std::string_view text, int codePage);
 [[nodiscard]] std::string FromWide(std::u16string_view text, int codePage);
 
 // True when every character of `text` has an exact mapping to `codePage`, so that FromWide
-// substitutes or drops nothing and the result converts back to `text`; a conversion callback that
-// stops at the first loss decides, not a round trip. Characters the code page holds only as a best
-// fit, default-ignorable characters it lacks (variation selectors, which FromWide drops) and
-// unpaired surrogates are not mappable. Empty text is mappable.
+// substitutes or drops nothing and the result converts back to `text`: the conversion stops at the
+// first loss, and what it gives must read back as `text`. Characters the code page holds only as a
+// best fit or a one-way row, default-ignorable characters it lacks (variation selectors, which
+// FromWide drops) and unpaired surrogates are not mappable. Empty text is mappable.
 // Throws ECodePageError for an unknown code page.
 bool IsMappable(std::u16string_view text, int codePage);
 

@@ -87,6 +87,9 @@ TEST(CodePageConversion, MappableOnlyWithoutSubstitution) {
   EXPECT_FALSE(IsMappable(std::u16string(5000, u'A') + u"\U0001F600", kWestern));
   EXPECT_FALSE(IsMappable(u"A\uFE00", kBig5));  // a variation selector would be dropped
   EXPECT_EQ(FromWide(u"A\uFE00", kBig5), "A");
+  // A one-way row gives another character back: Shift-JIS writes U+F86F as 8782, read as U+2116.
+  EXPECT_FALSE(IsMappable(u"\uF86F", 932));
+  EXPECT_TRUE(IsMappable(u"\u2116", 932));
 }
 
 TEST(CodePageConversion, UserCodePageFollowsTheEnvironment) {
