@@ -22,6 +22,15 @@ std::vector<size_t> CharacterStarts(std::string_view text) {
 
 }  // namespace
 
+bool IsBrokenCharacter(std::string_view character) {
+  if (character.size() != 1 || static_cast<unsigned char>(character[0]) < 0x80) return false;
+  try {
+    return codepage::ToWide(character, codepage::UserCodePage()) == u"\uFFFD";
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
 char16_t TNarrowSymbols::SymbolOf(std::string_view character) {
   if (character.size() == 1 && static_cast<unsigned char>(character[0]) < 0x80)
     return static_cast<char16_t>(character[0]);
@@ -39,7 +48,8 @@ std::u16string TNarrowSymbols::Encode(std::string_view text) {
   symbols.reserve(starts.size());
   for (size_t i = 0; i < starts.size(); ++i) {
     const size_t end = i + 1 < starts.size() ? starts[i + 1] : text.size();
-    symbols.push_back(SymbolOf(text.substr(starts[i], end - starts[i])));
+    const std::string_view character = text.substr(starts[i], end - starts[i]);
+    if (!IsBrokenCharacter(character)) symbols.push_back(SymbolOf(character));
   }
   return symbols;
 }

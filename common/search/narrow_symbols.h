@@ -9,10 +9,17 @@
 
 namespace mv::search {
 
+// True when `character` (one character of narrow text, as the user's code page splits it) is a
+// lead byte without its second byte, which no code page reads as a character (it becomes U+FFFD):
+// a Big5 text cut in the middle of a character ends in one.
+[[nodiscard]] bool IsBrokenCharacter(std::string_view character);
+
 // Turns narrow text (bytes in the user's code page) into wide symbols and back. A single-byte
 // character below 0x80 is its own symbol; every other character of the code page (double-byte
 // characters, bytes of 0x80 and above) becomes a symbol of its own from U+0080 up, the same
-// symbol for the same bytes, so that Decode(Encode(s)) == s for any text.
+// symbol for the same bytes, so that Decode(Encode(s)) == s for any text of whole characters.
+// A lead byte without its second byte is dropped: the pattern code would write its own signs
+// ("_" for "?", "[" ...) after it, and the code page would read the two bytes as one character.
 class TNarrowSymbols {
  public:
   // The symbols of narrow `text`, read in the user's code page (byte by byte when the code page

@@ -8,6 +8,7 @@
 #include "common/text/conversions.h"
 #include "common/text/str_utils.h"
 #include "platform/codepage/codepage.h"
+#include "platform/codepage/narrow_chars.h"
 #include "platform/db/command.h"
 #include "platform/db/dataset.h"
 
@@ -87,6 +88,22 @@ std::u16string SearchText(std::u16string_view pattern) {
   std::u16string text = StoredText(pattern);
   std::erase(text, u'\x02');
   return text;
+}
+
+// Narrow text without its lead bytes that lack a second byte (each alone reads as U+FFFD), which
+// the narrow wildcard translator drops.
+std::string WholeCharacters(const std::string& narrow) {
+  const int codePage = codepage::UserCodePage();
+  const std::vector<size_t> starts = codepage::CharStarts(narrow, codePage);
+  std::string whole;
+  for (size_t i = 0; i < starts.size(); ++i) {
+    const size_t end = i + 1 < starts.size() ? starts[i + 1] : narrow.size();
+    const std::string_view character(narrow.data() + starts[i], end - starts[i]);
+    const bool broken = character.size() == 1 && static_cast<unsigned char>(character[0]) >= 0x80 &&
+                        codepage::ToWide(character, codePage) == u"\uFFFD";
+    if (!broken) whole += character;
+  }
+  return whole;
 }
 
 // ---- The queries -----------------------------------------------------------------------------
@@ -247,7 +264,7 @@ std::set<int> TInjectionTable::Expected(TBuilder builder, const std::u16string& 
     case TBuilder::NQuotedNarrow:
       return IdsWhere(rows_, [&](const TRef& r) { return r && *r == fromNarrow; });
     case TBuilder::WildCardNarrow:
-      return ReferenceSelect(fromNarrow, rows_);
+      return ReferenceSelect(StoredText(MV_AnsiToWideString(WholeCharacters(narrow))), rows_);
     case TBuilder::WildCardWNarrow:
       return ReferenceSelect(SearchText(fromNarrow), rows_);
     default:

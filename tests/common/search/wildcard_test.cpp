@@ -102,6 +102,10 @@ TEST(ChangeWildCard, NarrowBig5CharactersStayWhole) {
             "((F >= '" + four + "') and (F <= '" + add + "'))");
   EXPECT_EQ(ChangeWildCardW("F", four + "?", true), U("(F like N'四_')"));
   EXPECT_EQ(UnescapeRangeTerm(north + "!_%"), north + "_*");
+  // A lead byte without its second byte is dropped: before the "_" written for "?" it would
+  // read as one character with it.
+  EXPECT_EQ(ChangeWildCard("F", "A\xB3?", true), "(F like 'A_')");
+  EXPECT_EQ(ChangeWildCard("F", four + "\xA5", true), "(F = '" + four + "')");
 }
 
 TEST(RangeCondition, BoundsAndUnescaping) {
