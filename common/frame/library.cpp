@@ -20,11 +20,26 @@ void ReleaseSharedState() {
   UpgradeRecord = {};
   DefinedRecord = {};
   UserRecord = {};
-  for (std::string* text :
-       {&TransactionGatewayURL, &ebizURL, &FAQURL, &MerovanURL, &BonusURL, &HKSCSURL,
-        &ContactURL_E, &ContactURL_C, &DataExpURL_E, &DataExpURL_C, &IDCertRenewalURL,
-        &IDCertCollectURL, &MVNCERTDN, &SO_MVNCERTDN, &ECIC_MVNCERTDN, &TTRS_MVNCERTDN,
-        &MVNCERTCADN, &ServerPath, &BasePath, &strChineseTable}) {
+  for (std::string* text : {&TransactionGatewayURL,
+                            &ebizURL,
+                            &FAQURL,
+                            &MerovanURL,
+                            &BonusURL,
+                            &HKSCSURL,
+                            &ContactURL_E,
+                            &ContactURL_C,
+                            &DataExpURL_E,
+                            &DataExpURL_C,
+                            &IDCertRenewalURL,
+                            &IDCertCollectURL,
+                            &MVNCERTDN,
+                            &SO_MVNCERTDN,
+                            &ECIC_MVNCERTDN,
+                            &TTRS_MVNCERTDN,
+                            &MVNCERTCADN,
+                            &ServerPath,
+                            &BasePath,
+                            &strChineseTable}) {
     text->clear();
   }
 }
@@ -51,8 +66,12 @@ void StopLibrary() {
   ReleaseSharedState();
 }
 
-int LibraryStartCount() { return startCount; }
+int LibraryStartCount() {
+  return startCount;
+}
 
-unsigned short SavedFpuControlWord() { return savedFpuWord; }
+unsigned short SavedFpuControlWord() {
+  return savedFpuWord;
+}
 
 }  // namespace mv
