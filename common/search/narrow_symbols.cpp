@@ -20,8 +20,8 @@ std::vector<size_t> CharacterStarts(std::string_view text) {
   }
 }
 
-}  // namespace
-
+// A lead byte without its second byte (one byte of 0x80 and above that the code page reads as
+// U+FFFD), as a Big5 text cut in the middle of a character ends in.
 bool IsBrokenCharacter(std::string_view character) {
   if (character.size() != 1 || static_cast<unsigned char>(character[0]) < 0x80) return false;
   try {
@@ -30,6 +30,8 @@ bool IsBrokenCharacter(std::string_view character) {
     return false;
   }
 }
+
+}  // namespace
 
 char16_t TNarrowSymbols::SymbolOf(std::string_view character) {
   if (character.size() == 1 && static_cast<unsigned char>(character[0]) < 0x80)

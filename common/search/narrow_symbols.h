@@ -9,11 +9,6 @@
 
 namespace mv::search {
 
-// True when `character` (one character of narrow text, as the user's code page splits it) is a
-// lead byte without its second byte, which no code page reads as a character (it becomes U+FFFD):
-// a Big5 text cut in the middle of a character ends in one.
-[[nodiscard]] bool IsBrokenCharacter(std::string_view character);
-
 // Turns narrow text (bytes in the user's code page) into wide symbols and back. A single-byte
 // character below 0x80 is its own symbol; every other character of the code page (double-byte
 // characters, bytes of 0x80 and above) becomes a symbol of its own from U+0080 up, the same
