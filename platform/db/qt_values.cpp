@@ -15,7 +15,7 @@ bool IsDateType(TFieldType t) {
 
 // Well-formed, so that no driver's UTF-16 reader joins a lone surrogate with the next character.
 QString QtText(const std::u16string& w) {
-  return QString::fromStdU16String(WellFormedText(w));
+  return QStringView(WellFormedText(w)).toString();
 }
 
 QDateTime QtDateTime(double days) {

@@ -82,7 +82,7 @@ QString Unbracketed(std::u16string_view table) {
     name += table[i];
     if (table[i] == u']') ++i;  // "]]" inside brackets is one "]"
   }
-  return QString::fromStdU16String(name);
+  return QStringView(name).toString();
 }
 
 }  // namespace

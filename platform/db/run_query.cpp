@@ -37,7 +37,7 @@ void SetOdbcTimeout(const QSqlQuery& query, int seconds) {
 
 // Whether the ODBC connection `db` runs on the SQLite ODBC driver, which keeps every text as a C
 // string and so ends a bound text at its first NUL, losing the rest.
-bool OdbcCutsTextsAtNul(const QSqlDatabase& db) {
+bool OdbcOnSqlite(const QSqlDatabase& db) {
   const QVariant handle = db.driver()->handle();
   if (!handle.isValid()) return false;
   SQLHANDLE connection = *static_cast<SQLHANDLE const*>(handle.data());
@@ -48,14 +48,21 @@ bool OdbcCutsTextsAtNul(const QSqlDatabase& db) {
   return std::string_view(reinterpret_cast<const char*>(name)).starts_with("SQLite");
 }
 
+bool StartsWithByteOrderMark(const QString& text) {
+  return !text.isEmpty() && (text.front() == u'\xFEFF' || text.front() == u'\xFFFE');
+}
+
 // The value to bind for `v`. A text holding NUL goes whole to every driver that takes a text with
 // its length; the SQLite ODBC driver cannot, so there each NUL becomes U+FFFD and what follows it
-// is kept.
+// is kept. Qt's SQLite driver binds UTF-16, and SQLite reads a text that begins with U+FEFF or
+// U+FFFE as a byte-order mark: it drops the mark, and after U+FFFE reads the rest byte-swapped;
+// such a text goes with one U+FEFF in front, which SQLite drops in its place.
 QVariant BoundValue(const TBoundValue& v, TBackend backend, const QSqlDatabase& db) {
   QVariant value = ToQt(v.Value, v.Type, backend);
-  if (backend != TBackend::Odbc || value.typeId() != QMetaType::QString) return value;
+  if (value.typeId() != QMetaType::QString) return value;
   QString text = value.toString();
-  if (!text.contains(QChar(u'\0')) || !OdbcCutsTextsAtNul(db)) return value;
+  if (backend == TBackend::SQLite && StartsWithByteOrderMark(text)) return text.prepend(u'\xFEFF');
+  if (backend != TBackend::Odbc || !text.contains(QChar(u'\0')) || !OdbcOnSqlite(db)) return value;
   return text.replace(QChar(u'\0'), QChar(u'\xFFFD'));
 }
 
@@ -77,7 +84,7 @@ QSqlQuery RunSql(const std::string& connection, const std::u16string& sql,
   const TLockWait wait(db, timeout);  // preparing reads the schema, which a lock may hold up too
   const std::u16string text =
       WellFormedText(backend == TBackend::SQLite ? SqliteDialect(sql) : sql);
-  if (!query.prepare(QString::fromStdU16String(text))) Refused(query);
+  if (!query.prepare(QStringView(text).toString())) Refused(query);
   for (const TBoundValue& v : values) query.addBindValue(BoundValue(v, backend, db));
   if (timeout >= 0 && backend == TBackend::Odbc) SetOdbcTimeout(query, timeout);
   if (!query.exec()) Refused(query);

@@ -15,7 +15,7 @@ QLineEdit* AddEdit(QDialog& dialog, const dialogs::InputQueryRequest& request) {
   auto* edit = new QLineEdit(&dialog);
   edit->setObjectName(QString::fromLatin1(kInputEditName));
   if (request.maxLength > 0) edit->setMaxLength(request.maxLength);
-  edit->setText(QString::fromStdU16String(request.value));
+  edit->setText(QStringView(request.value).toString());
   edit->selectAll();
   edit->setFocus();
   return edit;
@@ -25,15 +25,14 @@ QLabel* AddPrompt(QDialog& dialog, const dialogs::InputQueryRequest& request, QL
   auto* prompt = new QLabel(&dialog);
   prompt->setObjectName(QString::fromLatin1(kInputPromptName));
   prompt->setTextFormat(Qt::PlainText);
-  prompt->setText(QString::fromStdU16String(request.prompt));
+  prompt->setText(QStringView(request.prompt).toString());
   prompt->setBuddy(edit);
   return prompt;
 }
 
 QPushButton* AddButton(QDialogButtonBox& box, dialogs::TMsgDlgBtn button, bool english,
                        QDialogButtonBox::ButtonRole role) {
-  QPushButton* widget =
-      box.addButton(QString::fromStdU16String(ButtonCaption(button, english)), role);
+  QPushButton* widget = box.addButton(QStringView(ButtonCaption(button, english)).toString(), role);
   widget->setObjectName(QString::fromLatin1(ButtonObjectName(button)));
   return widget;
 }
@@ -52,7 +51,7 @@ QDialogButtonBox* AddButtons(QDialog& dialog, bool english) {
 std::unique_ptr<QDialog> MakeInputDialog(const dialogs::InputQueryRequest& request, bool english) {
   auto dialog = std::make_unique<QDialog>();
   dialog->setObjectName(QString::fromLatin1(kInputDialogName));
-  dialog->setWindowTitle(QString::fromStdU16String(request.caption));
+  dialog->setWindowTitle(QStringView(request.caption).toString());
   QLineEdit* edit = AddEdit(*dialog, request);
   auto* layout = new QVBoxLayout(dialog.get());
   layout->addWidget(AddPrompt(*dialog, request, edit));

@@ -52,7 +52,7 @@ bool SetObjectCaption(QObject& object, const QString& caption) {
 bool QtCaptionTarget::SetCaption(std::string_view controlName, const std::u16string& caption) {
   if (root_ == nullptr || controlName.empty()) return false;
   const QString name = QString::fromUtf8(controlName.data(), std::ssize(controlName));
-  const QString text = QString::fromStdU16String(caption);
+  const QString text = QStringView(caption).toString();
   if (root_->objectName() == name && SetWidgetCaption(*root_, text)) return true;
   for (QObject* object : root_->findChildren<QObject*>(name)) {
     if (SetObjectCaption(*object, text)) return true;

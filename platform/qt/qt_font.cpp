@@ -3,7 +3,7 @@
 namespace mv::qt {
 
 QFont ToQFont(const TextFont& font) {
-  QFont out(QString::fromStdU16String(font.family));
+  QFont out(QStringView(font.family).toString());
   if (font.pointSize > 0) out.setPointSizeF(font.pointSize);
   return out;
 }

@@ -81,7 +81,7 @@ std::u16string TextWrapping(const TextFont& font, int width, std::u16string_view
     return std::u16string(text);
   const LineFit fits(ToQFont(font), width);
   QStringList lines;
-  for (const QString& paragraph : Paragraphs(QString::fromUtf16(text.data(), std::ssize(text))))
+  for (const QString& paragraph : Paragraphs(QStringView(text).toString()))
     WrapParagraph(paragraph, fits, lines);
   return lines.join(QStringLiteral("\r\n")).toStdU16String();
 }

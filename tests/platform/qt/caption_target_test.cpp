@@ -46,6 +46,13 @@ TEST(QtCaptionTargetTest, SetsTheCaptionEachKindShows) {
   EXPECT_TRUE(target.SetCaption("edtName", u"Print"));
   EXPECT_EQ(action->text(), QStringLiteral("Print"));
   EXPECT_EQ(edit->text(), QString());
+  // A caption is UTF-16 as it stands: a leading U+FFFE is no byte-order mark.
+  EXPECT_TRUE(target.SetCaption("lblName",
+                                u"\xFFFE"
+                                u"ab"));
+  EXPECT_EQ(label->text(), QStringView(u"\xFFFE"
+                                       u"ab")
+                               .toString());
 
   QtCaptionTarget inner(group);
   EXPECT_FALSE(inner.SetCaption("tabLines", u"x"));  // outside its root
