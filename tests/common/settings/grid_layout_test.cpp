@@ -1,0 +1,246 @@
+// Grid layouts, sort orders and list colours in a real user table (the demo installation's
+// sysuser schema), through SQLite and unixODBC alike, restored onto a real dataset. The grid and
+// the menu are small fakes of their control interfaces here; tests/platform/qt drives the real
+// grid.
+#include <gtest/gtest.h>
+#include <strings.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "common/frame/shared_state.h"
+#include "common/settings/grid_layout.h"
+#include "common/settings/user_grid_color.h"
+#include "common/text/lang_changer.h"
+#include "platform/db/dataset.h"
+#include "tests/common/text/text_fixture.h"
+#include "tests/platform/db/db_fixture.h"
+
+namespace mv::test {
+namespace {
+
+// Columns bound by name, in the order given, each 64 pixels wide to begin with.
+class FakeGrid : public controls::TGridColumns {
+ public:
+  explicit FakeGrid(std::vector<std::string> names)
+      : names_(std::move(names)), widths_(names_.size(), 64) {}
+  int FindColumn(std::string_view name) const override {
+    for (size_t i = 0; i < names_.size(); ++i) {
+      if (names_[i].size() == name.size() &&
+          !strncasecmp(names_[i].data(), name.data(), name.size()))
+        return static_cast<int>(i);
+    }
+    return -1;
+  }
+  int ColumnWidth(int column) const override { return widths_.at(column); }
+  void SetColumnWidth(int column, int width) override { widths_.at(column) = width; }
+  void SetColors(controls::TColor a, controls::TColor b, controls::TColor c) override {
+    colors_ = {a, b, c};
+  }
+  std::vector<int>& Widths() { return widths_; }
+
+ private:
+  std::vector<std::string> names_;
+  std::vector<int> widths_;
+  std::vector<controls::TColor> colors_;
+};
+
+class FakeMenu : public controls::TMenuItems {
+ public:
+  explicit FakeMenu(std::vector<std::string> names) : names_(std::move(names)) {
+    checked_.assign(names_.size(), true);
+  }
+  int Count() const override { return static_cast<int>(names_.size()); }
+  std::string Name(int item) const override { return names_.at(item); }
+  bool Checked(int item) const override { return checked_.at(item); }
+  void SetChecked(int item, bool checked) override { checked_.at(item) = checked; }
+  std::vector<bool> checked_;
+
+ private:
+  std::vector<std::string> names_;
+};
+
+template <class Backend>
+class GridLayoutTest : public TextFixture {
+ protected:
+  GridLayoutTest() {
+    std::stringstream schema;
+    schema << std::ifstream(MV_SYSUSER_SQL).rdbuf();
+    Exec(schema.str());
+    Exec("insert into sysuser (userid, Preference) values ('DEMO', 'Other=1'), ('OTHER', '')");
+    Exec("create table inbox (RefNo text, Sender text, Subject text, Size int)");
+    Exec("insert into inbox values ('R1', 'ACME', 'Hello', 10)");
+    UserRecord.UserID = "DEMO";
+    LangChanger().SetLanguage(kLangEnglish);
+    inbox_.SetCommandText("select RefNo, Sender, Subject, Size from inbox");
+    inbox_.Open();
+  }
+  ~GridLayoutTest() override {
+    EXPECT_TRUE(dialogs_.Requests().empty());  // every box shown was expected
+    LangChanger().SetLanguage(kLangChinese);
+  }
+  static std::u16string Stored() {
+    db::TMVADODataSet ds;
+    ds.SetCommandText("select Preference from sysuser where userid = 'DEMO'");
+    ds.Open();
+    return ds.Fields(0).AsWideString();
+  }
+  static void Store(const std::string& text) {
+    Exec("update sysuser set Preference = '" + text + "' where userid = 'DEMO'");
+  }
+  std::string FieldOrder() {
+    std::string order;
+    for (int i = 0; i < inbox_.FieldCount(); ++i)
+      order += inbox_.Fields(i).FieldName() + (inbox_.Fields(i).Visible() ? "+ " : "- ");
+    return order;
+  }
+  std::u16string LastBox() {
+    if (dialogs_.Requests().empty()) return u"(no box)";
+    EXPECT_EQ(dialogs_.Requests().back().kind, dialogs::mtError);
+    const std::u16string text = dialogs_.Requests().back().text;
+    dialogs_.Clear();
+    return text;
+  }
+
+  Backend db_{installation_.Dir()};
+  db::TMVADODataSet inbox_;
+  FakeGrid grid_{{"refno", "Sender", "SENDER", "Size"}};  // no column for Subject
+  FakeMenu menu_{{"miRefNo", "miSender", "miSubject", "miGone", "m", ""}};
+};
+
+using Backends = ::testing::Types<SqliteBackend, OdbcBackend>;
+TYPED_TEST_SUITE(GridLayoutTest, Backends);
+
+TYPED_TEST(GridLayoutTest, ColumnSettingListsEveryFieldWithTheFirstMatchingColumnsWidth) {
+  this->grid_.Widths() = {80, 120, 999, 40};
+  this->inbox_.FieldByName("Sender").SetVisible(false);
+  this->inbox_.FieldByName("Size").SetIndex(0);
+  std::string setting = "old";
+  GetColumnSetting(this->inbox_, setting, this->grid_);
+  EXPECT_EQ(setting, "Size,1,40,RefNo,1,80,Sender,0,120,Subject,1,0,");
+  this->inbox_.Close();
+  GetColumnSetting(this->inbox_, setting, this->grid_);
+  EXPECT_EQ(setting, "");
+}
+
+TYPED_TEST(GridLayoutTest, SavingWritesTheLayoutAndSortItemAndReplacesTheEntryInPlace) {
+  this->grid_.Widths() = {80, 120, 0, 40};
+  this->inbox_.FieldByName("Sender").SetVisible(false);
+  SaveDlgSetting("InboxGrid", this->inbox_, this->grid_, 2);
+  EXPECT_EQ(this->Stored(),
+            u"Other=1\r\nInboxGrid=RefNo,1,80,Sender,0,120,Subject,1,0,Size,1,40,QOrder,,2,\r\n");
+  this->Store("inboxgrid=x\r\nOther=1");
+  SaveDlgSetting(u"InboxGrid", this->inbox_, this->grid_, -7);
+  EXPECT_EQ(this->Stored(),
+            u"InboxGrid=RefNo,1,80,Sender,0,120,Subject,1,0,Size,1,40,QOrder,,-7,\r\nOther=1\r\n");
+  EXPECT_EQ(GetQuickSortOrder("INBOXGRID"), -7);
+}
+
+TYPED_TEST(GridLayoutTest, RestoringCountsEveryTripleForThePositions) {
+  // Gone is no field and QOrder none either: both still take their positions.
+  SetColumnSetting(this->inbox_, "Subject,0,55,Gone,1,9,SIZE,1,abc,QOrder,,3,RefNo,yes,70,",
+                   this->menu_, this->grid_);
+  EXPECT_EQ(this->FieldOrder(), "Subject- Size+ Sender+ RefNo- ");
+  EXPECT_EQ(this->grid_.Widths(), (std::vector<int>{70, 64, 64, 64}));  // abc ignored
+  // Items named after a field are checked by its visibility; any other item is unchecked.
+  EXPECT_EQ(this->menu_.checked_, (std::vector<bool>{false, true, false, false, false, false}));
+}
+
+TYPED_TEST(GridLayoutTest, ALastTripleWithoutItsCommaIsAppliedALoneNameIsNot) {
+  SetColumnSetting(this->inbox_, u"Size,1,30,Sender,0,120", this->menu_, this->grid_);
+  EXPECT_EQ(this->FieldOrder(), "Size+ Sender- RefNo+ Subject+ ");
+  EXPECT_EQ(this->grid_.Widths(), (std::vector<int>{64, 120, 64, 30}));
+  SetColumnSetting(this->inbox_, u"RefNo,1,5,Subject", this->menu_, this->grid_);
+  EXPECT_EQ(this->FieldOrder(), "RefNo+ Size+ Sender- Subject+ ");
+  SetColumnSetting(this->inbox_, u"Sender,1", this->menu_, this->grid_);  // width item empty
+  EXPECT_EQ(this->FieldOrder(), "Sender+ RefNo+ Size+ Subject+ ");
+}
+
+TYPED_TEST(GridLayoutTest, RestoringAStoredLayoutAndItsSortIndex) {
+  this->Store("InboxGrid=Sender,0,33,RefNo,1,44,QOrder,,5,\r\nEmpty=");
+  GetDlgSetting("inboxgrid", this->inbox_, this->menu_, this->grid_);
+  EXPECT_EQ(this->FieldOrder(), "Sender- RefNo+ Subject+ Size+ ");
+  EXPECT_EQ(this->grid_.Widths(), (std::vector<int>{44, 33, 64, 64}));
+  EXPECT_EQ(GetQuickSortOrder("InboxGrid"), 5);
+  // An absent or empty entry changes nothing, not even the menu.
+  this->menu_.checked_.assign(6, true);
+  GetDlgSetting("Missing", this->inbox_, this->menu_, this->grid_);
+  GetDlgSetting("Empty", this->inbox_, this->menu_, this->grid_);
+  EXPECT_EQ(this->menu_.checked_, std::vector<bool>(6, true));
+  EXPECT_EQ(GetQuickSortOrder("Missing"), 1);
+}
+
+TYPED_TEST(GridLayoutTest, ASortItemThatIsNoNumberOrMissingGivesOneSilently) {
+  this->Store("A=RefNo,1,4,QOrder,,x,\r\nB=RefNo,1,4,\r\nC=QOrder,,7\r\nD=qorder,,7,");
+  EXPECT_EQ(GetQuickSortOrder("A"), 1);
+  EXPECT_EQ(GetQuickSortOrder("B"), 1);
+  EXPECT_EQ(GetQuickSortOrder("C"), 7);
+  EXPECT_EQ(GetQuickSortOrder("D"), 1);  // the sort item's name is matched exactly
+}
+
+TYPED_TEST(GridLayoutTest, AUserWithoutARowKeepsEverythingAsItIs) {
+  UserRecord.UserID = "NOBODY";
+  SaveDlgSetting("InboxGrid", this->inbox_, this->grid_, 2);
+  this->inbox_.Close();  // not even a closed dataset is an error then
+  SaveDlgSetting("InboxGrid", this->inbox_, this->grid_, 2);
+  GetDlgSetting("InboxGrid", this->inbox_, this->menu_, this->grid_);
+  EXPECT_EQ(GetQuickSortOrder("InboxGrid"), 1);
+  EXPECT_EQ(this->Stored(), u"Other=1");
+}
+
+TYPED_TEST(GridLayoutTest, AClosedDatasetIsAnInternalErrorAndNothingIsWritten) {
+  this->Store("InboxGrid=Size,0,1,");
+  this->inbox_.Close();
+  SaveDlgSetting("InboxGrid", this->inbox_, this->grid_, 2);
+  EXPECT_EQ(this->LastBox(),
+            u"Error in updating column display setting.\r\nReason : Internal Error");
+  GetDlgSetting("InboxGrid", this->inbox_, this->menu_, this->grid_);
+  EXPECT_EQ(this->LastBox(),
+            u"Error in updating column display setting.\r\nReason : Internal Error");
+  LangChanger().SetLanguage(kLangChinese);
+  SaveDlgSetting("InboxGrid", this->inbox_, this->grid_, 2);
+  EXPECT_EQ(this->LastBox(), u"記錄欄格設定發生錯誤\r\n原因 : 系統內在錯誤");
+  GetDlgSetting("InboxGrid", this->inbox_, this->menu_, this->grid_);
+  EXPECT_EQ(this->LastBox(), u"讀取欄格設定發生錯誤\r\n原因 : 系統內在錯誤");
+  EXPECT_EQ(this->Stored(), u"InboxGrid=Size,0,1,");
+  EXPECT_EQ(this->menu_.checked_, std::vector<bool>(6, true));
+}
+
+TYPED_TEST(GridLayoutTest, DatabaseErrorsAreShownUnderTheirHeadings) {
+  Exec("drop table sysuser");
+  EXPECT_EQ(GetQuickSortOrder("InboxGrid"), 1);
+  std::u16string box = this->LastBox();
+  EXPECT_TRUE(box.starts_with(u"Error in updating column display sort order.\r\nReason : "));
+  EXPECT_NE(box.find(u"sysuser"), std::u16string::npos);
+  LangChanger().SetLanguage(kLangChinese);
+  EXPECT_EQ(GetQuickSortOrder("InboxGrid"), 1);
+  EXPECT_TRUE(this->LastBox().starts_with(u"讀取欄格排序設定發生錯誤\r\n原因 : "));
+  TUserGridColor inbox{}, outbox{}, sentbox{}, search{};
+  GetUserColor(inbox, outbox, sentbox, search);  // no box, the defaults
+  EXPECT_EQ(search, kDefaultUserGridColor);
+}
+
+TYPED_TEST(GridLayoutTest, ColoursFallBackToTheDefaultsOneRecordAtATime) {
+  TUserGridColor inbox{}, outbox{}, sentbox{}, search{};
+  GetUserColor(inbox, outbox, sentbox, search);
+  EXPECT_EQ(inbox, (TUserGridColor{15323849, 0xFF000005, 16315629}));
+  EXPECT_EQ(search, kDefaultUserGridColor);
+  this->Store(
+      "InboxColor=255,-16777211,4278190093,\r\nOutboxColor=1,2,\r\nsentboxcolor=1,x,3,\r\n"
+      "SearchformsColor=7,8,9");
+  GetUserColor(inbox, outbox, sentbox, search);
+  EXPECT_EQ(inbox, (TUserGridColor{255, 0xFF000005, 0xFF00000D}));
+  EXPECT_EQ(outbox, kDefaultUserGridColor);  // the empty third item is no number
+  EXPECT_EQ(sentbox, kDefaultUserGridColor);
+  EXPECT_EQ(search, (TUserGridColor{7, 8, 9}));
+  this->Store("InboxColor=1,2,4294967296,\r\nOutboxColor=,2,3,");
+  GetUserColor(inbox, outbox, sentbox, search);
+  EXPECT_EQ(inbox, kDefaultUserGridColor);  // beyond 32 bits
+  EXPECT_EQ(outbox, kDefaultUserGridColor);
+  UserRecord.UserID = "OTHER";
+  GetUserColor(inbox, outbox, sentbox, search);
+  EXPECT_EQ(search, kDefaultUserGridColor);
+}
+
+}  // namespace
+}  // namespace mv::test
