@@ -190,7 +190,7 @@ TEST_F(PopForm, ButtonStaysDownWhileOpenAndIsReleasedByEveryClose) {
   QTest::mouseClick(button_, Qt::LeftButton);
   ASSERT_TRUE(form_->isVisible());
   ClickInMain(button_->geometry().center());
-  QTest::qWait(20);
+  QCoreApplication::processEvents();
   EXPECT_FALSE(form_->isVisible());
   EXPECT_FALSE(button_->isChecked());
 
