@@ -32,6 +32,10 @@ bool MakeDirectory(const std::string& path);
 // Removes the file `path`; false when it cannot be removed or does not exist.
 bool RemoveFile(const std::string& path);
 
+// Renames the file `from` to `to`, replacing a file `to` at once (both in one file system, where
+// the replacement is atomic); false when it cannot be renamed.
+bool RenameFile(const std::string& from, const std::string& to);
+
 // `path` with its last component matched without regard to ASCII case inside its folder, so that
 // "SEDIFSYS.INI" finds "sedifsys.ini". An exact match wins; when nothing matches, `path` itself.
 std::string ResolveFileName(const std::string& path);

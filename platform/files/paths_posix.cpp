@@ -74,6 +74,12 @@ bool RemoveFile(const std::string& path) {
   return name && ::unlink(name->c_str()) == 0;
 }
 
+bool RenameFile(const std::string& from, const std::string& to) {
+  const std::optional<std::string> source = EncodeFileName(from);
+  const std::optional<std::string> target = EncodeFileName(to);
+  return source && target && ::rename(source->c_str(), target->c_str()) == 0;
+}
+
 std::string ExtractFilePath(std::string_view path) {
   size_t pos = path.rfind(kPathDelim);
   return pos == std::string_view::npos ? std::string() : std::string(path.substr(0, pos + 1));
