@@ -4,6 +4,7 @@
 
 #include "platform/db/connection_qt_p.h"
 #include "platform/db/dataset_impl_p.h"
+#include "platform/db/dataset_observers_p.h"
 #include "platform/db/db_error.h"
 #include "platform/db/lock_wait_p.h"
 #include "platform/db/qt_values_p.h"
@@ -39,9 +40,29 @@ QSqlQuery RunSelect(const TMVADODataSet& dataset, const std::u16string& table, s
 
 }  // namespace
 
-TMVADODataSet::TMVADODataSet() : impl_(std::make_unique<Impl>()) {}
+TMVADODataSet::TMVADODataSet()
+    : impl_(std::make_unique<Impl>()), observers_(std::make_shared<TDataSetObservers>(*this)) {}
 
-TMVADODataSet::~TMVADODataSet() = default;
+TMVADODataSet::~TMVADODataSet() {
+  controlsDisabled_ = 0;
+  Notify(deDestroying, 0);
+  observers_->Detach();
+}
+
+bool TMVADODataSet::Notify(TDataSetEvent event, int recNo) {
+  if (controlsDisabled_ > 0) return true;
+  const std::shared_ptr<TDataSetObservers> observers = observers_;  // the dataset may go
+  return observers->Notify({event, recNo < 0 ? RecNo() : recNo});
+}
+
+void TMVADODataSet::DisableControls() {
+  ++controlsDisabled_;
+}
+
+void TMVADODataSet::EnableControls() {
+  if (controlsDisabled_ == 0) return;
+  if (--controlsDisabled_ == 0) Notify(deDataSetChanged);
+}
 
 void TMVADODataSet::CheckOpen() const {
   if (impl_->state == dsInactive)
@@ -50,6 +71,12 @@ void TMVADODataSet::CheckOpen() const {
 
 void TMVADODataSet::Open() {
   if (Active()) return;
+  OpenRows();
+  if (!Notify(deOpened)) return;
+  if (afterOpen_) afterOpen_(*this);
+}
+
+void TMVADODataSet::OpenRows() {
   Impl fresh;
   fresh.table = SingleTableOf(PrepareSql(CommandText()).Sql);
   QSqlQuery query = RunSelect(*this, fresh.table, fresh.keyColumns);
@@ -78,27 +105,26 @@ void TMVADODataSet::Open() {
   }
   fresh.state = dsBrowse;
   *impl_ = std::move(fresh);
-  if (afterOpen_) afterOpen_(*this);
 }
 
 void TMVADODataSet::Close() {
+  const bool wasActive = Active();
   *impl_ = Impl();
+  if (wasActive) Notify(deClosed, 0);
 }
 
 void TMVADODataSet::Refresh() {
   CheckOpen();
   std::vector<std::unique_ptr<TField>> old = std::move(impl_->fields);
-  const TDataSetNotifyEvent afterOpen = std::move(afterOpen_);
-  afterOpen_ = nullptr;
-  Close();
+  *impl_ = Impl();
   try {
-    Open();
+    OpenRows();
   } catch (...) {
-    afterOpen_ = afterOpen;
+    Notify(deClosed, 0);
     throw;
   }
-  afterOpen_ = afterOpen;
   KeepFieldSettings(std::move(old));
+  if (!Notify(deRefreshed)) return;
   if (afterRefresh_) afterRefresh_(*this);
 }
 
@@ -112,8 +138,8 @@ void TMVADODataSet::KeepFieldSettings(std::vector<std::unique_ptr<TField>> old) 
     }
     for (auto& candidate : fresh) {
       if (candidate && candidate->FieldName() == field->FieldName()) {
-        candidate->SetDisplayLabel(field->DisplayLabel());
-        candidate->SetVisible(field->Visible());
+        candidate->label_ = field->label_;  // the refresh tells its observers once
+        candidate->visible_ = field->visible_;
         ordered.push_back(std::move(candidate));
         break;
       }
@@ -152,13 +178,20 @@ void TMVADODataSet::Next() {
   if (Eof()) return;
   if (!impl_->cursor) {
     ++impl_->current;
-    return;
+  } else {
+    impl_->rows.clear();
+    if (impl_->cursor->next()) {
+      impl_->rows.push_back(ReadRow(*impl_->cursor, impl_->columnTypes));
+      ++impl_->serverRecNo;
+    }
   }
-  impl_->rows.clear();
-  if (impl_->cursor->next()) {
-    impl_->rows.push_back(ReadRow(*impl_->cursor, impl_->columnTypes));
-    ++impl_->serverRecNo;
-  }
+  Notify(deRecordMoved);
+}
+
+void TMVADODataSet::MoveTo(size_t row) {
+  if (impl_->current == row) return;
+  impl_->current = row;
+  Notify(deRecordMoved);
 }
 
 void TMVADODataSet::First() {
@@ -170,7 +203,7 @@ void TMVADODataSet::First() {
     }
     return;
   }
-  impl_->current = 0;
+  MoveTo(0);
 }
 
 int TMVADODataSet::RecordCount() const {
@@ -190,7 +223,7 @@ void TMVADODataSet::SetRecNo(int recNo) {
     throw EDatabaseError("Record number " + std::to_string(recNo) + " out of bounds");
   }
   Post();
-  impl_->current = static_cast<size_t>(recNo - 1);
+  MoveTo(static_cast<size_t>(recNo - 1));
 }
 
 }  // namespace mv::db

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/db/dataset_observers.h"
 #include "platform/db/field_types.h"
 #include "platform/db/query.h"
 #include "platform/db/variant.h"
@@ -39,23 +40,29 @@ class TField {
  public:
   // The column name as the select gives it.
   const std::string& FieldName() const { return name_; }
-  // The caption a grid shows; the field name until set.
+  // The caption a grid shows, narrow text in the user's code page; the field name until set.
+  // A change tells the dataset's observers (deLayoutChanged).
   const std::string& DisplayLabel() const { return label_; }
-  void SetDisplayLabel(std::string_view label) { label_ = label; }
-  // Whether a grid shows the field; true until set.
+  void SetDisplayLabel(std::string_view label);
+  // Whether a grid shows the field; true until set. A change tells the observers.
   bool Visible() const { return visible_; }
-  void SetVisible(bool visible) { visible_ = visible; }
+  void SetVisible(bool visible);
   // True for a field computed by the program (AddCalculatedField), not read from the database.
   bool Calculated() const { return static_cast<bool>(compute_); }
   // The field type code (field_types.h).
   TFieldType DataType() const { return dataType_; }
   // The field's place in the dataset's field order (0-based).
   int Index() const;
-  // Moves the field to `index` (clamped to the field range); the others keep their order.
+  // Moves the field to `index` (clamped to the field range); the others keep their order. A move
+  // tells the observers.
   void SetIndex(int index);
 
   // The value of the current row (null when there is none).
   Variant Value() const;
+  // The value in row `recNo` (1-based) without moving the current row or telling anyone; the
+  // row being edited gives its edited values. Null for a row number the dataset does not hold
+  // (a server cursor holds only its current row).
+  Variant ValueAt(int recNo) const;
   void SetValue(const Variant& value);
   bool IsNull() const { return Value().IsNull(); }
   // The value as narrow text (user's code page), wide text, date-time, whole or floating-point
@@ -169,7 +176,17 @@ class TMVADODataSet : public TMVADOQuery {
   // Drops the pending edit or new row and returns to dsBrowse.
   void Cancel();
 
-  // The after-open and after-refresh events; empty until set.
+  // Stops telling the dataset's observers anything (the after-open and after-refresh events still
+  // run). Calls nest: each DisableControls needs its EnableControls. When the last one comes,
+  // every observer is told deDataSetChanged once. An EnableControls with none pending does
+  // nothing.
+  void DisableControls();
+  void EnableControls();
+  // True while a DisableControls is pending.
+  bool ControlsDisabled() const { return controlsDisabled_ > 0; }
+
+  // The after-open and after-refresh events; empty until set. They belong to the dataset's
+  // caller; others follow the dataset through a TDataSetLink.
   const TDataSetNotifyEvent& AfterOpen() const { return afterOpen_; }
   void SetAfterOpen(TDataSetNotifyEvent event) { afterOpen_ = std::move(event); }
   const TDataSetNotifyEvent& AfterRefresh() const { return afterRefresh_; }
@@ -177,8 +194,10 @@ class TMVADODataSet : public TMVADOQuery {
 
  private:
   friend class TField;
+  friend class TDataSetLink;
 
   Variant ColumnValue(const TField& field);
+  Variant ColumnValueAt(const TField& field, int recNo);
   void SetColumnValue(const TField& field, const Variant& value);
   void MoveField(const TField& field, int index);
   int FieldIndex(const TField& field) const;
@@ -186,12 +205,21 @@ class TMVADODataSet : public TMVADOQuery {
   void CheckEditable() const;
   // After a refresh: the fields of `old` keep their order, labels and visibility.
   void KeepFieldSettings(std::vector<std::unique_ptr<TField>> old);
+  // Runs the command text into the rows and fields, telling no one.
+  void OpenRows();
+  // Tells the observers about `event` unless controls are disabled; `recNo` -1 stands for the
+  // current row. Returns false when an observer destroyed the dataset.
+  bool Notify(TDataSetEvent event, int recNo = -1);
+  void MoveTo(size_t row);
+  void StartInsert(bool appending);
 
   std::unique_ptr<Impl> impl_;
   TCursorLocation cursorLocation_ = clUseClient;
   TLockType lockType_ = ltOptimistic;
   TDataSetNotifyEvent afterOpen_;
   TDataSetNotifyEvent afterRefresh_;
+  std::shared_ptr<TDataSetObservers> observers_;
+  int controlsDisabled_ = 0;
 };
 
 }  // namespace mv::db

@@ -173,20 +173,25 @@ void TMVADODataSet::Edit() {
   impl_->buffer = *impl_->CurrentRow();
   impl_->assigned.assign(impl_->buffer.size(), false);
   impl_->state = dsEdit;
+  Notify(deRecordChanged);
 }
 
 void TMVADODataSet::Insert() {
+  StartInsert(false);
+}
+
+void TMVADODataSet::Append() {
+  StartInsert(true);
+}
+
+void TMVADODataSet::StartInsert(bool appending) {
   CheckEditable();
   Post();
   impl_->buffer.assign(impl_->columnNames.size(), Variant());
   impl_->assigned.assign(impl_->buffer.size(), false);
-  impl_->appending = false;
+  impl_->appending = appending;
   impl_->state = dsInsert;
-}
-
-void TMVADODataSet::Append() {
-  Insert();
-  impl_->appending = true;
+  Notify(deRecordChanged);
 }
 
 void TMVADODataSet::Post() {
@@ -202,6 +207,7 @@ void TMVADODataSet::Post() {
     const QSqlQuery insert = RunSql(ConnectionName(), s.Sql, s.Values, CommandTimeout(), true);
     KeepKeyOfWrittenRow(d, &insert);
   }
+  TDataSetEvent event = deRecordChanged;
   if (d.state == dsEdit) {
     d.rows[d.current] = d.buffer;
   } else if (d.cursor) {
@@ -210,8 +216,10 @@ void TMVADODataSet::Post() {
   } else {
     d.current = d.appending ? d.rows.size() : std::min(d.current, d.rows.size());
     d.rows.insert(d.rows.begin() + static_cast<long>(d.current), d.buffer);
+    event = deRowInserted;
   }
   d.state = dsBrowse;
+  Notify(event);
 }
 
 void TMVADODataSet::Delete() {
@@ -224,12 +232,16 @@ void TMVADODataSet::Delete() {
   TStatement s;
   s.Sql = u"DELETE FROM " + d.table + u" WHERE " + RowCondition(d, d.rows[d.current], s.Values);
   RunRowUpdate(ConnectionName(), s, CommandTimeout());
+  const int deleted = RecNo();
   d.rows.erase(d.rows.begin() + static_cast<long>(d.current));
   if (d.cursor && d.cursor->next()) d.rows.push_back(ReadRow(*d.cursor, d.columnTypes));
+  Notify(deRowDeleted, deleted);
 }
 
 void TMVADODataSet::Cancel() {
-  if (impl_->state == dsEdit || impl_->state == dsInsert) impl_->state = dsBrowse;
+  if (impl_->state != dsEdit && impl_->state != dsInsert) return;
+  impl_->state = dsBrowse;
+  Notify(deRecordChanged);
 }
 
 }  // namespace mv::db

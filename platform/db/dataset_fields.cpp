@@ -38,8 +38,24 @@ void TField::SetIndex(int index) {
   owner_.MoveField(*this, index);
 }
 
+void TField::SetDisplayLabel(std::string_view label) {
+  if (label_ == label) return;
+  label_ = label;
+  owner_.Notify(deLayoutChanged);
+}
+
+void TField::SetVisible(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  owner_.Notify(deLayoutChanged);
+}
+
 Variant TField::Value() const {
   return owner_.ColumnValue(*this);
+}
+
+Variant TField::ValueAt(int recNo) const {
+  return owner_.ColumnValueAt(*this, recNo);
 }
 
 void TField::SetValue(const Variant& value) {
@@ -73,8 +89,10 @@ TField& TMVADODataSet::AddCalculatedField(std::string_view name, TFieldType data
                                           std::function<Variant(TMVADODataSet&)> compute) {
   CheckOpen();
   impl_->fields.emplace_back(new TField(*this, -1, std::string(name), dataType));
-  impl_->fields.back()->compute_ = std::move(compute);
-  return *impl_->fields.back();
+  TField& field = *impl_->fields.back();
+  field.compute_ = std::move(compute);
+  Notify(deLayoutChanged);
+  return field;
 }
 
 int TMVADODataSet::FieldIndex(const TField& field) const {
@@ -92,12 +110,33 @@ void TMVADODataSet::MoveField(const TField& field, int index) {
   auto moved = std::move(fields[static_cast<size_t>(from)]);
   fields.erase(fields.begin() + from);
   fields.insert(fields.begin() + to, std::move(moved));
+  Notify(deLayoutChanged);
 }
 
 Variant TMVADODataSet::ColumnValue(const TField& field) {
   if (field.compute_) return Active() ? field.compute_(*this) : Variant();
   const TRow* row = impl_->CurrentRow();
   return row ? (*row)[static_cast<size_t>(field.column_)] : Variant();
+}
+
+Variant TMVADODataSet::ColumnValueAt(const TField& field, int recNo) {
+  Impl& d = *impl_;
+  const TRow* row = nullptr;
+  if (d.state == dsEdit && recNo == RecNo()) {
+    row = &d.buffer;
+  } else if (d.cursor) {
+    if (recNo == d.serverRecNo && !d.rows.empty()) row = &d.rows.front();
+  } else if (recNo >= 1 && static_cast<size_t>(recNo) <= d.rows.size()) {
+    row = &d.rows[static_cast<size_t>(recNo - 1)];
+  }
+  if (row == nullptr) return Variant();
+  if (!field.compute_) return (*row)[static_cast<size_t>(field.column_)];
+  struct Peek {
+    Impl& d;
+    ~Peek() { d.peek = nullptr; }
+  } peek{d};
+  d.peek = row;
+  return field.compute_(*this);
 }
 
 void TMVADODataSet::SetColumnValue(const TField& field, const Variant& value) {
@@ -108,6 +147,7 @@ void TMVADODataSet::SetColumnValue(const TField& field, const Variant& value) {
   const auto column = static_cast<size_t>(field.column_);
   impl_->buffer[column] = value;
   impl_->assigned[column] = true;
+  Notify(deRecordChanged);
 }
 
 std::u16string TMVADODataSet::GetUnicodeFieldValue(int index, bool asCarrier) {
@@ -120,16 +160,25 @@ bool TMVADODataSet::Locate(std::string_view fieldName, const Variant& value) {
   TField& field = FieldByName(fieldName);
   Post();
   if (impl_->cursor) {
-    for (; !Eof(); Next()) {
-      if (SameValue(field.Value(), value)) return true;
+    const int start = RecNo();
+    ++controlsDisabled_;  // one deRecordMoved for the whole walk, not one per row
+    try {
+      while (!Eof() && !SameValue(field.Value(), value)) Next();
+    } catch (...) {
+      --controlsDisabled_;
+      throw;
     }
-    return false;
+    --controlsDisabled_;
+    const bool found = !Eof();
+    if (RecNo() != start) Notify(deRecordMoved);
+    return found;
   }
-  const size_t before = impl_->current;
-  for (impl_->current = 0; impl_->current < impl_->rows.size(); ++impl_->current) {
-    if (SameValue(field.Value(), value)) return true;
+  for (size_t row = 0; row < impl_->rows.size(); ++row) {
+    if (SameValue(field.ValueAt(static_cast<int>(row) + 1), value)) {
+      MoveTo(row);
+      return true;
+    }
   }
-  impl_->current = before;
   return false;
 }
 

@@ -31,9 +31,11 @@ struct TMVADODataSet::Impl {
   TRow buffer;                      // the row being edited or inserted
   std::vector<bool> assigned;       // columns set since Edit / Insert
   bool appending = false;
-  std::u16string table;  // the one table of the select as it opened; empty for other selects
+  std::u16string table;        // the one table of the select as it opened; empty for other selects
+  const TRow* peek = nullptr;  // the row a calculated field reads for ValueAt, in place of current
 
   const TRow* CurrentRow() const {
+    if (peek != nullptr) return peek;
     if (state == dsEdit || state == dsInsert) return &buffer;
     return current < rows.size() ? &rows[current] : nullptr;
   }
