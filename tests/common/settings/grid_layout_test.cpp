@@ -156,20 +156,6 @@ TYPED_TEST(GridLayoutTest, ALastTripleWithoutItsCommaIsAppliedALoneNameIsNot) {
   EXPECT_EQ(this->FieldOrder(), "Sender+ RefNo+ Size+ Subject+ ");
 }
 
-TYPED_TEST(GridLayoutTest, RestoringAStoredLayoutAndItsSortIndex) {
-  this->Store("InboxGrid=Sender,0,33,RefNo,1,44,QOrder,,5,\r\nEmpty=");
-  GetDlgSetting("inboxgrid", this->inbox_, this->menu_, this->grid_);
-  EXPECT_EQ(this->FieldOrder(), "Sender- RefNo+ Subject+ Size+ ");
-  EXPECT_EQ(this->grid_.Widths(), (std::vector<int>{44, 33, 64, 64}));
-  EXPECT_EQ(GetQuickSortOrder("InboxGrid"), 5);
-  // An absent or empty entry changes nothing, not even the menu.
-  this->menu_.checked_.assign(6, true);
-  GetDlgSetting("Missing", this->inbox_, this->menu_, this->grid_);
-  GetDlgSetting("Empty", this->inbox_, this->menu_, this->grid_);
-  EXPECT_EQ(this->menu_.checked_, std::vector<bool>(6, true));
-  EXPECT_EQ(GetQuickSortOrder("Missing"), 1);
-}
-
 TYPED_TEST(GridLayoutTest, ASortItemThatIsNoNumberOrMissingGivesOneSilently) {
   this->Store("A=RefNo,1,4,QOrder,,x,\r\nB=RefNo,1,4,\r\nC=QOrder,,7\r\nD=qorder,,7,");
   EXPECT_EQ(GetQuickSortOrder("A"), 1);
@@ -178,14 +164,19 @@ TYPED_TEST(GridLayoutTest, ASortItemThatIsNoNumberOrMissingGivesOneSilently) {
   EXPECT_EQ(GetQuickSortOrder("D"), 1);  // the sort item's name is matched exactly
 }
 
-TYPED_TEST(GridLayoutTest, AUserWithoutARowKeepsEverythingAsItIs) {
+TYPED_TEST(GridLayoutTest, NothingStoredChangesNothing) {
+  this->Store("Empty=");
+  GetDlgSetting("Missing", this->inbox_, this->menu_, this->grid_);
+  GetDlgSetting("Empty", this->inbox_, this->menu_, this->grid_);
   UserRecord.UserID = "NOBODY";
   SaveDlgSetting("InboxGrid", this->inbox_, this->grid_, 2);
-  this->inbox_.Close();  // not even a closed dataset is an error then
+  this->inbox_.Close();  // not even a closed dataset is an error without a row
   SaveDlgSetting("InboxGrid", this->inbox_, this->grid_, 2);
   GetDlgSetting("InboxGrid", this->inbox_, this->menu_, this->grid_);
   EXPECT_EQ(GetQuickSortOrder("InboxGrid"), 1);
-  EXPECT_EQ(this->Stored(), u"Other=1");
+  EXPECT_EQ(this->Stored(), u"Empty=");
+  EXPECT_EQ(this->menu_.checked_, std::vector<bool>(6, true));
+  EXPECT_EQ(this->grid_.Widths(), std::vector<int>(4, 64));
 }
 
 TYPED_TEST(GridLayoutTest, AClosedDatasetIsAnInternalErrorAndNothingIsWritten) {
