@@ -47,6 +47,25 @@ void CheckMenuItems(db::TMVADODataSet& dataSet, controls::TMenuItems& popupMenu)
   }
 }
 
+// Enables the dataset's disabled controls while it lives, so that the grid follows the columns
+// being set, and disables them again when it goes, also after an error.
+class TControlsFollowing {
+ public:
+  explicit TControlsFollowing(db::TMVADODataSet& dataSet)
+      : dataSet_(dataSet), wasDisabled_(dataSet.ControlsDisabled()) {
+    if (wasDisabled_) dataSet_.EnableControls();
+  }
+  ~TControlsFollowing() {
+    if (wasDisabled_) dataSet_.DisableControls();
+  }
+  TControlsFollowing(const TControlsFollowing&) = delete;
+  TControlsFollowing& operator=(const TControlsFollowing&) = delete;
+
+ private:
+  db::TMVADODataSet& dataSet_;
+  bool wasDisabled_;
+};
+
 }  // namespace
 
 void GetColumnSetting(db::TMVADODataSet& dataSet, std::u16string& setting,
@@ -69,6 +88,7 @@ void GetColumnSetting(db::TMVADODataSet& dataSet, std::string& setting,
 
 void SetColumnSetting(db::TMVADODataSet& dataSet, std::u16string_view setting,
                       controls::TMenuItems& popupMenu, controls::TGridColumns& grid) {
+  TControlsFollowing following(dataSet);
   std::u16string rest(setting);
   for (int position = 0; !rest.empty(); ++position) {
     TColumnTriple triple;

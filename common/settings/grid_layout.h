@@ -64,7 +64,9 @@ void GetColumnSetting(db::TMVADODataSet& dataSet, std::u16string& setting,
 // takes its position. Reading stops when no "," is left, so a last triple without its final ","
 // is applied, while a lone name after the last "," is not. Then every item of `popupMenu` whose
 // name, without its first two characters, is a field's name is checked exactly when that field is
-// visible; every other item is unchecked. Errors reach the caller.
+// visible; every other item is unchecked. When the dataset's controls are disabled, they are
+// enabled once while the columns are set, so that the grid follows, and disabled once again
+// afterwards, also after an error. Errors reach the caller.
 void SetColumnSetting(db::TMVADODataSet& dataSet, std::string_view setting,
                       controls::TMenuItems& popupMenu, controls::TGridColumns& grid);
 void SetColumnSetting(db::TMVADODataSet& dataSet, std::u16string_view setting,

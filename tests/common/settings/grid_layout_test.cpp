@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <strings.h>
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -33,7 +34,10 @@ class FakeGrid : public controls::TGridColumns {
     return -1;
   }
   int ColumnWidth(int column) const override { return widths_.at(column); }
-  void SetColumnWidth(int column, int width) override { widths_.at(column) = width; }
+  void SetColumnWidth(int column, int width) override {
+    if (width < 0) throw std::runtime_error("no negative widths");
+    widths_.at(column) = width;
+  }
   void SetColors(controls::TColor a, controls::TColor b, controls::TColor c) override {
     colors_ = {a, b, c};
   }
@@ -153,6 +157,24 @@ TYPED_TEST(GridLayoutTest, ALastTripleWithoutItsCommaIsAppliedALoneNameIsNot) {
   SetColumnSetting(this->inbox_, u"RefNo,1,5,Subject", this->menu_, this->grid_);
   EXPECT_EQ(this->FieldOrder(), "RefNo+ Size+ Sender- Subject+ ");
   SetColumnSetting(this->inbox_, u"Sender,1", this->menu_, this->grid_);  // width item empty
+  EXPECT_EQ(this->FieldOrder(), "Sender+ RefNo+ Size+ Subject+ ");
+}
+
+TYPED_TEST(GridLayoutTest, DisabledControlsFollowWhileTheColumnsAreSetAndAreDisabledAgain) {
+  std::vector<db::TDataSetEvent> events;
+  db::TDataSetLink link(this->inbox_, [&events](db::TMVADODataSet&, const db::TDataSetChange& c) {
+    events.push_back(c.Event);
+  });
+  this->inbox_.DisableControls();
+  SetColumnSetting(this->inbox_, "Size,1,44,", this->menu_, this->grid_);
+  EXPECT_TRUE(this->inbox_.ControlsDisabled());
+  EXPECT_NE(std::find(events.begin(), events.end(), db::deLayoutChanged), events.end());
+  EXPECT_THROW(SetColumnSetting(this->inbox_, "RefNo,1,-1,", this->menu_, this->grid_),
+               std::runtime_error);
+  EXPECT_TRUE(this->inbox_.ControlsDisabled());
+  this->inbox_.EnableControls();
+  SetColumnSetting(this->inbox_, "Sender,1,4,", this->menu_, this->grid_);
+  EXPECT_FALSE(this->inbox_.ControlsDisabled());
   EXPECT_EQ(this->FieldOrder(), "Sender+ RefNo+ Size+ Subject+ ");
 }
 
