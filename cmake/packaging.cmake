@@ -72,7 +72,7 @@ mv_export_component(core mvplatform platform mvmodules modules mvdb db mvcommon 
                     mvcommon_core core mvcommon_service_abi service_abi)
 mv_export_component(qt mvqt qt)
 if(TARGET mvforms)
-  mv_export_component(forms mvforms forms)
+  mv_export_component(forms mvreport report mvforms forms)
 endif()
 
 # Public headers: every header of the library folders but the private *_p.h ones.
