@@ -325,7 +325,7 @@ TEST_F(PreviewDlgTest, TheStartRoutinesMakeItThePreviewOfEveryReport) {
 }
 
 // The picture of the documentation: the preview of a Chinese list report, in Chinese. Written
-// into MV_SCREENSHOTS when that folder is set.
+// into MV_SCREENSHOT_DIR when that folder is set.
 TEST_F(PreviewDlgTest, ChineseScreenshot) {
   LangChanger().ChineseTogether();
   auto dialog = ShowReady();
@@ -333,7 +333,7 @@ TEST_F(PreviewDlgTest, ChineseScreenshot) {
   QTRY_COMPARE(Status(*dialog), QStringLiteral("第1頁，共3頁"));
   const QImage image = dialog->grab().toImage();
   EXPECT_EQ(image.width(), 1000);
-  if (const char* folder = std::getenv("MV_SCREENSHOTS")) {
+  if (const char* folder = std::getenv("MV_SCREENSHOT_DIR")) {
     EXPECT_TRUE(image.save(QString::fromUtf8(folder) + "/print_preview.png"));
   }
   LangChanger().EnglishTogether();
