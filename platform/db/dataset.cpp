@@ -2,6 +2,7 @@
 
 #include <QtSql/QSqlRecord>
 
+#include "platform/codepage/codepage.h"
 #include "platform/db/connection_qt_p.h"
 #include "platform/db/dataset_impl_p.h"
 #include "platform/db/dataset_observers_p.h"
@@ -14,11 +15,11 @@
 
 namespace mv::db {
 
-TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types) {
+TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types, int codePage) {
   TRow row;
   row.reserve(types.size());
   for (size_t i = 0; i < types.size(); ++i) {
-    row.push_back(FromQt(query.value(static_cast<int>(i)), types[i]));
+    row.push_back(FromQt(query.value(static_cast<int>(i)), types[i], codePage));
   }
   return row;
 }
@@ -78,6 +79,7 @@ void TMVADODataSet::Open() {
 
 void TMVADODataSet::OpenRows() {
   Impl fresh;
+  fresh.codePage = codepage::UserCodePage();
   fresh.table = SingleTableOf(PrepareSql(CommandText()).Sql);
   QSqlQuery query = RunSelect(*this, fresh.table, fresh.keyColumns);
   const TBackend backend = Connection(ConnectionName()).Backend;
@@ -90,10 +92,10 @@ void TMVADODataSet::OpenRows() {
     fresh.columnNames.push_back(record.fieldName(i).toStdString());
   }
   if (cursorLocation_ == clUseClient) {
-    while (query.next()) fresh.rows.push_back(ReadRow(query, fresh.columnTypes));
+    while (query.next()) fresh.rows.push_back(ReadRow(query, fresh.columnTypes, fresh.codePage));
   } else {
     if (query.next()) {
-      fresh.rows.push_back(ReadRow(query, fresh.columnTypes));
+      fresh.rows.push_back(ReadRow(query, fresh.columnTypes, fresh.codePage));
       fresh.serverRecNo = 1;
     }
     fresh.cursor.emplace(std::move(query));
@@ -181,7 +183,7 @@ void TMVADODataSet::Next() {
   } else {
     impl_->rows.clear();
     if (impl_->cursor->next()) {
-      impl_->rows.push_back(ReadRow(*impl_->cursor, impl_->columnTypes));
+      impl_->rows.push_back(ReadRow(*impl_->cursor, impl_->columnTypes, impl_->codePage));
       ++impl_->serverRecNo;
     }
   }

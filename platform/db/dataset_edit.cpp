@@ -234,7 +234,7 @@ void TMVADODataSet::Delete() {
   RunRowUpdate(ConnectionName(), s, CommandTimeout());
   const int deleted = RecNo();
   d.rows.erase(d.rows.begin() + static_cast<long>(d.current));
-  if (d.cursor && d.cursor->next()) d.rows.push_back(ReadRow(*d.cursor, d.columnTypes));
+  if (d.cursor && d.cursor->next()) d.rows.push_back(ReadRow(*d.cursor, d.columnTypes, d.codePage));
   Notify(deRowDeleted, deleted);
 }
 

@@ -12,14 +12,15 @@ namespace mv::db {
 
 using TRow = std::vector<Variant>;
 
-// The current row of `query`, its columns read as `types`.
-TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types);
+// The current row of `query`, its columns read as `types`, narrow texts in code page `codePage`.
+TRow ReadRow(const QSqlQuery& query, const std::vector<TFieldType>& types, int codePage);
 
 struct TMVADODataSet::Impl {
   TDataSetState state = dsInactive;
   std::vector<std::unique_ptr<TField>> fields;  // in field order
   std::vector<TFieldType> columnTypes;          // by column of the row buffer
   std::vector<std::string> columnNames;
+  int codePage = 0;  // the code page of narrow texts, the user's as the dataset opened
   // The first columns of the row buffer hold the table's primary key, selected for writing rows
   // back and never made fields; 0 when the rows are named by every column read.
   size_t keyColumns = 0;

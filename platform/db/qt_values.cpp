@@ -29,6 +29,18 @@ double DayNumberOfQt(const QDateTime& dt) {
   return DayNumberOf({d.year(), d.month(), d.day(), t.hour(), t.minute(), t.second(), t.msec()});
 }
 
+// Text in code page `codePage`. ASCII is the same bytes in every code page of the library's
+// table, so most of a table's narrow columns skip the converter.
+std::string NarrowText(const QString& text, int codePage) {
+  std::string ascii(static_cast<size_t>(text.size()), '\0');
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const char16_t unit = text[i].unicode();
+    if (unit >= 0x80) return codepage::FromWide(text.toStdU16String(), codePage);
+    ascii[static_cast<size_t>(i)] = static_cast<char>(unit);
+  }
+  return ascii;
+}
+
 Variant DateFromQt(const QVariant& value) {
   switch (value.typeId()) {
     case QMetaType::QDateTime:
@@ -102,12 +114,16 @@ QVariant ToQt(const Variant& value, TFieldType type, TBackend backend) {
 }
 
 Variant FromQt(const QVariant& value, TFieldType type) {
+  return FromQt(value, type, codepage::UserCodePage());
+}
+
+Variant FromQt(const QVariant& value, TFieldType type, int codePage) {
   if (value.isNull()) return Variant();
   switch (type) {
     case ftString:
     case ftFixedChar:
     case ftMemo:
-      return codepage::FromWide(value.toString().toStdU16String(), codepage::UserCodePage());
+      return NarrowText(value.toString(), codePage);
     case ftWideString:
       return value.toString().toStdU16String();
     case ftDate:

@@ -15,9 +15,10 @@ namespace mv::db {
 // stores dates so) and as a date-time on ODBC.
 QVariant ToQt(const Variant& value, TFieldType type, TBackend backend);
 
-// The value a column of type `type` read as `value`: narrow types give narrow text in the user's
-// code page, wide types wide text, date types a date-time; columns of unknown type keep what
-// the driver gave.
+// The value a column of type `type` read as `value`: narrow types give narrow text in code page
+// `codePage` (the user's when left out), wide types wide text, date types a date-time; columns
+// of unknown type keep what the driver gave.
+Variant FromQt(const QVariant& value, TFieldType type, int codePage);
 Variant FromQt(const QVariant& value, TFieldType type);
 
 // The field type of an ODBC column from the SQL type the driver reports (QSqlField::typeID),
