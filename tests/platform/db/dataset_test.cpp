@@ -319,5 +319,29 @@ TYPED_TEST(DataSetTest, BadSqlRaisesTheDriverMessageAndLeavesTheDatasetClosed) {
   EXPECT_EQ(ds.RecordCount(), 0);
 }
 
+// Narrow columns come in the user's code page as the dataset opened: ASCII as it stands, the rest
+// converted; a change of code page takes effect at the next open.
+TYPED_TEST(DataSetTest, NarrowColumnsAreReadInTheCodePageOfTheOpen) {
+  auto& ds = this->ds_;
+  TMVADOCommand c;
+  c.SetCommandText("insert into Msg (RefNo, Flag) values (:r, 'x')");
+  c.SetUnicodeParamValue(0, u"台北 A1", false);
+  ASSERT_EQ(c.Execute(), 1);
+  ds.SetCommandText("select RefNo from Msg order by Flag desc, RefNo");
+  {
+    const test::ScopedEnv big5("MV_CODEPAGE", "950");
+    ds.Open();
+  }
+  EXPECT_EQ(ds.Fields(0).AsString(), "\xA5\x78\xA5\x5F A1");
+  ds.Next();
+  EXPECT_EQ(ds.Fields(0).AsString(), "R1");
+  ds.Close();
+  {
+    const test::ScopedEnv utf8("MV_CODEPAGE", "65001");
+    ds.Open();
+  }
+  EXPECT_EQ(ds.Fields(0).AsString(), "台北 A1");
+}
+
 }  // namespace
 }  // namespace mv::db
