@@ -31,6 +31,10 @@ std::optional<QSize> MainWindowSize(const QWidget* owner) {
 
 TPopForm::TPopForm(QWidget* owner) : QWidget(owner, Qt::Popup) {}
 
+TPopForm::~TPopForm() {
+  if (open_ && speedButton_) speedButton_->setChecked(false);
+}
+
 void TPopForm::SetSpeedButton(QToolButton* button) {
   if (buttonClicked_) disconnect(buttonClicked_);
   speedButton_ = button;

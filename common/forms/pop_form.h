@@ -30,6 +30,8 @@ class TPopForm : public QWidget {
   // A hidden popup form owned by `owner`, whose outermost window is the main window that bounds
   // the form's position (no owner: no bound). DataStyle shGetLong.
   explicit TPopForm(QWidget* owner = nullptr);
+  // A form destroyed while open releases its button; the edit keeps its text.
+  ~TPopForm() override;
 
   TDataStyle DataStyle() const { return dataStyle_; }
   void SetDataStyle(TDataStyle style) { dataStyle_ = style; }
