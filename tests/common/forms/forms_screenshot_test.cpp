@@ -4,13 +4,11 @@
 // popup_form.png (the pictures of the README).
 #include <gtest/gtest.h>
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QPainter>
 #include <QStatusBar>
-#include <QTableWidget>
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -21,6 +19,7 @@
 #include "common/forms/show_panel_holder.h"
 #include "common/text/lang_changer.h"
 #include "platform/db/connections.h"
+#include "platform/qt/data_grid.h"
 #include "platform/qt/qt_text_controls.h"
 #include "tests/support/demo_database.h"
 
@@ -38,25 +37,6 @@ bool Fits(const QLabel& label) {
   return label.fontMetrics().horizontalAdvance(label.text()) <= label.contentsRect().width();
 }
 
-// The grid of the scene: the dataset's rows read into a table.
-void Fill(QTableWidget& table, db::TMVADODataSet& dataSet) {
-  table.setColumnCount(dataSet.FieldCount());
-  for (int column = 0; column < dataSet.FieldCount(); ++column) {
-    table.setHorizontalHeaderItem(
-        column, new QTableWidgetItem(QString::fromStdString(dataSet.Fields(column).FieldName())));
-  }
-  for (dataSet.First(); !dataSet.Eof(); dataSet.Next()) {
-    const int row = table.rowCount();
-    table.insertRow(row);
-    for (int column = 0; column < dataSet.FieldCount(); ++column) {
-      table.setItem(row, column,
-                    new QTableWidgetItem(
-                        QString::fromStdU16String(dataSet.GetUnicodeFieldValue(column, false))));
-    }
-  }
-  table.resizeColumnsToContents();
-}
-
 TEST(FormsScreenshot, ListWindowShowsItsCountInTheLabelAndTheStatusBar) {
   LangChanger().SetLanguage(kLangEnglish);
   TempDir dir;
@@ -67,10 +47,9 @@ TEST(FormsScreenshot, ListWindowShowsItsCountInTheLabelAndTheStatusBar) {
     auto* central = new QWidget(&window);
     auto* layout = new QVBoxLayout(central);
     auto* label = new QLabel("Inbox", central);
-    auto* table = new QTableWidget(central);
-    table->verticalHeader()->hide();
+    auto* grid = new qt::DataGrid(central);
     layout->addWidget(label);
-    layout->addWidget(table);
+    layout->addWidget(grid);
     window.setCentralWidget(central);
     TShowPanelHolder::GetInstance().SetPanel(qt::AddStatusPanel(*window.statusBar(), "count"));
 
@@ -78,8 +57,9 @@ TEST(FormsScreenshot, ListWindowShowsItsCountInTheLabelAndTheStatusBar) {
     dataSet.SetCommandText("select RefNo, Sender, MType, Subject, Status from Inbox");
     const auto taker = TRecordsTakerFactory::CreateOfDefaultShowLabel(
         &dataSet, std::make_shared<qt::QtLabelText>(label));
+    grid->SetDataSet(&dataSet);
     dataSet.Open();
-    Fill(*table, dataSet);
+    grid->resizeColumnsToContents();
     window.resize(640, 260);
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
