@@ -57,7 +57,7 @@ void DataSetModel::SetDataSet(db::TMVADODataSet* dataset) {
 }
 
 db::TField* DataSetModel::FieldOfColumn(int column) const {
-  if (column < 0 || static_cast<size_t>(column) >= columns_.size()) return nullptr;
+  if (Frozen() || column < 0 || static_cast<size_t>(column) >= columns_.size()) return nullptr;
   return columns_[static_cast<size_t>(column)];
 }
 
@@ -111,7 +111,7 @@ QVariant DataSetModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 bool DataSetModel::canFetchMore(const QModelIndex& parent) const {
-  return !parent.isValid() && server_ && dataset_ != nullptr && !dataset_->Eof();
+  return !parent.isValid() && server_ && !Frozen() && dataset_ != nullptr && !dataset_->Eof();
 }
 
 void DataSetModel::fetchMore(const QModelIndex& parent) {
@@ -166,6 +166,15 @@ void DataSetModel::Rebuild(bool dropReadRows) {
                   : (dataset_ != nullptr ? dataset_->RecordCount() : 0);
   endResetModel();
   emit columnsRebuilt();
+}
+
+bool DataSetModel::ReadFieldsAlive() const {
+  for (const db::TField* read : readFields_) {
+    bool alive = false;
+    for (int i = 0; !alive && i < dataset_->FieldCount(); ++i) alive = &dataset_->Fields(i) == read;
+    if (!alive) return false;
+  }
+  return true;
 }
 
 int DataSetModel::CurrentRow() const {

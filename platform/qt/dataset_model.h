@@ -23,7 +23,8 @@ class DataSetModel : public QAbstractTableModel {
   void SetDataSet(db::TMVADODataSet* dataset);
   db::TMVADODataSet* DataSet() const { return dataset_; }
 
-  // The field shown in column `column`, or nullptr outside the columns.
+  // The field shown in column `column`, or nullptr outside the columns and while the dataset's
+  // controls are disabled (its fields may be gone until they are enabled again).
   db::TField* FieldOfColumn(int column) const;
   // The column of the visible field `fieldName` (without regard to case), or -1.
   int ColumnOfField(QStringView fieldName) const;
@@ -61,6 +62,10 @@ class DataSetModel : public QAbstractTableModel {
  private:
   void Follow(const db::TDataSetChange& change);
   void Rebuild(bool dropReadRows);
+  // True while the dataset's controls are disabled: the model shows nothing of it.
+  bool Frozen() const { return dataset_ != nullptr && dataset_->ControlsDisabled(); }
+  // True when every field the read rows hold is still a field of the dataset.
+  bool ReadFieldsAlive() const;
   void KeepServerRow();
   QString CellText(db::TField& field, int row) const;
 

@@ -120,8 +120,11 @@ TEST_F(DataGridTest, DisabledControlsFreezeTheGridUntilOneCatchUp) {
   ds_->DisableControls();
   ds_->FieldByName("Sender").SetVisible(false);
   test::Exec("insert into Inbox (RefNo) values ('R9999')");
-  ds_->Refresh();
+  ds_->Refresh();  // the fields the columns showed are gone: nothing of them is painted
   ds_->SetRecNo(31);
+  grid_.grab();
+  EXPECT_EQ(grid_.ColumnFieldName(0), "");
+  EXPECT_FALSE(grid_.model()->headerData(0, Qt::Horizontal).isValid());
   ds_->EnableControls();
   EXPECT_EQ(grid_.ColumnCount(), 4);
   EXPECT_EQ(grid_.model()->rowCount(), 30);
