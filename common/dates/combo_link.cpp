@@ -1,5 +1,6 @@
 #include "common/dates/combo_link.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "common/dates/date_range_setter.h"

@@ -57,6 +57,7 @@ TFmDateRangeAdd::TFmDateRangeAdd(QWidget* parent)
   qt::PlaceScaled(*ButtonAdd, {84, 40, 73, 25}, ratio);
   Button1->setObjectName(QStringLiteral("Button1"));
   qt::PlaceScaled(*Button1, {4, 40, 73, 25}, ratio);
+  ButtonAdd->setDefault(true);  // Enter in the count adds
   connect(ButtonAdd, &QPushButton::clicked, this, &QDialog::accept);
   connect(Button1, &QPushButton::clicked, this, &QDialog::reject);
   setTabOrder(Edit1, ComboBox1);

@@ -1,6 +1,8 @@
 #include "common/forms/date_range_form_link.h"
 
 #include <QCoreApplication>
+#include <algorithm>
+#include <vector>
 
 #include "common/dates/date_range_setter.h"
 #include "common/dates/preset_dialog_opener.h"
@@ -48,6 +50,12 @@ void TForm_DateRangeSetter_Link::Execute(QPoint /*point*/, TDateParam* param, TU
   Selection = param;
   UpdateUserDefined();
   Form->exec();
+}
+
+TUI_Link* TForm_DateRangeSetter_Link::Caller() const {
+  if (CallerLink == nullptr) return nullptr;
+  const std::vector<TUI_Link*>& links = Setter->UILinks();
+  return std::find(links.begin(), links.end(), CallerLink) != links.end() ? CallerLink : nullptr;
 }
 
 void TForm_DateRangeSetter_Link::UpdateUserDefined() {

@@ -27,6 +27,10 @@ class TForm_DateRangeSetter_Link : public TUI_Link {
   TFmDateRangeSetter* const Form;
   // The link that opened the dialog, or nullptr; cleared when the dialog closes with a preset.
   TUI_Link* CallerLink = nullptr;
+  // CallerLink while it is still registered with the shared list; nullptr once its screen has
+  // gone (a link leaves the list when it is destroyed), so a dialog that outlives its calling
+  // screen never reaches the freed link.
+  [[nodiscard]] TUI_Link* Caller() const;
 
   // Fills the dialog's list with every preset's Description, then highlights the Selection.
   void UpdateUserDefined() override;

@@ -127,7 +127,7 @@ void TFmDateRangeSetter::ListBox1DblClick() {
   const int row = ListBox1->currentRow();
   if (Setter != nullptr && row >= 0 && row < Setter->Count()) {
     Link->Selection = Setter->GetDateParam(row);
-    if (TUI_Link* caller = Link->CallerLink) {
+    if (TUI_Link* caller = Link->Caller()) {
       caller->UpdateSelection(row);
       caller->NotifyChanged();
     }
@@ -160,8 +160,8 @@ void TFmDateRangeSetter::ButtonDeleteClick() {
   if (Setter == nullptr || row < 0 || row >= Setter->Count()) return;
   TDateParam* param = Setter->GetDateParam(row);
   if (param->Locked) return;
-  if (Link->CallerLink != nullptr && Link->CallerLink->Selection == param)
-    Link->CallerLink->Selection = nullptr;
+  if (TUI_Link* caller = Link->Caller(); caller != nullptr && caller->Selection == param)
+    caller->Selection = nullptr;
   Setter->DeleteDateParamIndex(row);
   // The first row has none above it: nothing is highlighted then, and Delete is disabled.
   ListBox1->setCurrentRow(row - 1);
@@ -170,8 +170,11 @@ void TFmDateRangeSetter::ButtonDeleteClick() {
 
 bool TFmDateRangeSetter::FormCloseQuery() {
   if (Setter != nullptr) SaveUserPreference(kPeriodPresetKey, Setter->GetUserDefined());
-  TUI_Link* caller = Link != nullptr ? Link->CallerLink : nullptr;
-  if (caller == nullptr) return true;
+  TUI_Link* caller = Link != nullptr ? Link->Caller() : nullptr;
+  if (caller == nullptr) {
+    if (Link != nullptr) Link->CallerLink = nullptr;
+    return true;
+  }
   if (caller->Selection == nullptr) {
     ShowPlainMessage(LangChanger().CStrW("Please select a period", "請選擇時段"));
     return false;

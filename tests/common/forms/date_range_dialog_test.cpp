@@ -147,6 +147,22 @@ TEST_F(DialogTest, EscClosesLikeCancelWithoutPassingAPreset) {
   EXPECT_EQ(GetUserPreference("PeriodPreset"), "-1D#1W#1M#3M#6M#1Y");
 }
 
+TEST_F(DialogTest, AScreenClosedWhileTheDialogIsOpenIsForgotten) {
+  auto caller = std::make_unique<ListScreen>("Caller");
+  caller->Choose(4);
+  WhenModal([&](QWidget& modal) {
+    caller.reset();
+    Dialog(modal).ListBox1->setCurrentRow(4);
+    Dialog(modal).ButtonDelete->click();  // its preset may go, and closing asks nothing
+    QTest::keyClick(Dialog(modal).ListBox1, Qt::Key_Return);
+    EXPECT_FALSE(modal.isVisible());
+  });
+  caller->button->click();
+  EXPECT_TRUE(dialogs_.Requests().empty());
+  EXPECT_EQ(GetUserPreference("PeriodCaller"), "6M");
+  EXPECT_EQ(GetUserPreference("PeriodPreset"), "-1D#1W#1M#3M#1Y");
+}
+
 TEST_F(DialogTest, DeletingTheFirstRowLeavesNoRowHighlighted) {
   SaveUserPreference("PeriodPreset", "2D#1W");  // no all-dates preset: the first row may go
   TDateRangeSetter::Reload();
