@@ -45,7 +45,9 @@ void QtUpDown::Step(int step) {
 }
 
 bool QtUpDown::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == buddy_ && event->type() == QEvent::KeyPress) {
+  // The event's type first: the edit may be in its destructor (a plain QWidget by then) while
+  // its last events pass here.
+  if (event->type() == QEvent::KeyPress && watched == buddy_) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Up || key == Qt::Key_Down) {
       Step(key == Qt::Key_Up ? 1 : -1);
