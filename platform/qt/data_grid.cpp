@@ -94,7 +94,9 @@ void DataGrid::ApplyWidths() {
   QHeaderView* header = horizontalHeader();
   const int widest = std::max(header->defaultSectionSize(), viewport()->width() / 2);
   for (int column = 0; column < model_->columnCount(); ++column) {
-    const auto known = widths_.find(Key(model_->FieldOfColumn(column)->FieldName()));
+    const db::TField* field = model_->FieldOfColumn(column);
+    if (field == nullptr) return;  // controls disabled: the widths come with the catch-up
+    const auto known = widths_.find(Key(field->FieldName()));
     int width = known != widths_.end() ? known->second : 0;
     if (width < 1) {
       width = std::max({header->defaultSectionSize(), header->sectionSizeHint(column),

@@ -207,8 +207,10 @@ void DataSetModel::Follow(const db::TDataSetChange& change) {
       Rebuild(true);
       break;
     case db::deDataSetChanged:
-      // A server cursor that is still at or past the rows read has not started again.
-      Rebuild(dataset_->RecNo() != 0 && static_cast<size_t>(dataset_->RecNo()) < readRows_.size());
+      // A server cursor still at or past the rows read, with the same fields, has not started
+      // again.
+      Rebuild(!ReadFieldsAlive() || (dataset_->RecNo() != 0 &&
+                                     static_cast<size_t>(dataset_->RecNo()) < readRows_.size()));
       break;
     case db::deLayoutChanged:
       Rebuild(false);

@@ -134,6 +134,13 @@ TEST_F(DataGridTest, DisabledControlsFreezeTheGridUntilOneCatchUp) {
   EXPECT_EQ(grid_.ColumnCount(), 3);
   EXPECT_EQ(grid_.model()->rowCount(), 31);
   EXPECT_EQ(grid_.currentIndex().row(), 30);
+  // A grid given a dataset whose controls are disabled waits for them too.
+  DataGrid late;
+  ds_->DisableControls();
+  late.SetDataSet(&*ds_);
+  EXPECT_EQ(late.ColumnFieldName(0), "");
+  ds_->EnableControls();
+  EXPECT_EQ(late.ColumnFieldName(0), "RefNo");
 }
 
 TEST_F(DataGridTest, TheKeyboardAndSelectionMoveTheDataSetAndItsMovesMoveTheSelection) {
@@ -209,6 +216,13 @@ TEST_F(ServerGridTest, AServerCursorIsReadInBlocksAsTheUserScrolls) {
   EXPECT_EQ(ds_->RecNo(), grid_.model()->rowCount());
   ds_->Refresh();
   EXPECT_LE(grid_.model()->rowCount(), 80);
+  // Refreshed and moved on while frozen: the rows read before belong to the old fields.
+  ds_->DisableControls();
+  ds_->Refresh();
+  for (int i = 0; i < 200; ++i) ds_->Next();
+  ds_->EnableControls();
+  EXPECT_EQ(Cell(200, 0), "R0201");
+  EXPECT_EQ(Cell(0, 0), "");  // gone by unseen
 }
 
 TEST_F(ServerGridTest, APaintAsksOnlyForTheVisibleCells) {
