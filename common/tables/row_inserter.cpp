@@ -10,7 +10,7 @@ namespace {
 
 // Parameters per statement: few enough for SQL Server's limit of 2,100 and for binding by name,
 // which looks each name up in the statement's list.
-constexpr size_t kParametersPerStatement = 200;
+constexpr size_t kParametersPerStatement = 64;
 
 }  // namespace
 
