@@ -5,9 +5,9 @@
 #include <QPointer>
 #include <QScrollArea>
 
-namespace mv::report {
+#include "platform/report/report.h"
 
-class TReport;
+namespace mv::report {
 
 class TPreviewControl : public QScrollArea {
   Q_OBJECT
