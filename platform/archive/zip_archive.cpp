@@ -27,7 +27,6 @@ struct TZipWriter::Impl {
   ::archive* a = nullptr;
   archive_entry* entry = nullptr;
   std::string path;
-  bool closed = false;
 };
 
 TZipWriter::TZipWriter(const std::string& path) : impl_(std::make_unique<Impl>()) {
@@ -43,7 +42,8 @@ TZipWriter::TZipWriter(const std::string& path) : impl_(std::make_unique<Impl>()
 
 TZipWriter::~TZipWriter() {
   archive_entry_free(impl_->entry);
-  if (!impl_->closed) archive_write_fail(impl_->a);
+  // Freeing closes an unfinished file as it stands, which also releases the compressor of an
+  // open entry (the caller removes the file).
   archive_write_free(impl_->a);
 }
 
@@ -66,7 +66,6 @@ void TZipWriter::Write(std::string_view bytes) {
 }
 
 void TZipWriter::Close() {
-  impl_->closed = true;
   if (archive_write_close(impl_->a) != ARCHIVE_OK) Fail(impl_->a, impl_->path);
 }
 

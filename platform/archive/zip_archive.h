@@ -22,7 +22,7 @@ class TZipWriter {
   // Makes (or empties) the zip file `path`, a narrow path in the system code page; throws
   // EArchiveError when it cannot be made.
   explicit TZipWriter(const std::string& path);
-  // Leaves an unfinished file as it is: the caller removes it.
+  // Closes an unfinished file as it stands: the caller removes it.
   ~TZipWriter();
   TZipWriter(const TZipWriter&) = delete;
   TZipWriter& operator=(const TZipWriter&) = delete;
