@@ -19,7 +19,7 @@ bool IsLowSurrogate(char16_t c) {
 // The string primitives report no errors: a wrong MV_CODEPAGE must not make them throw.
 int ReadingCodePage() {
   int codePage = codepage::UserCodePage();
-  return codepage::ConverterName(codePage).empty() ? codepage::kWestern : codePage;
+  return !codepage::IsKnownCodePage(codePage) ? codepage::kWestern : codePage;
 }
 
 std::u16string Widen(std::string_view s) {

@@ -1,5 +1,6 @@
-// Case mapping of wide text by ICU's language-independent (root) rules, so that the result never
-// depends on the machine's locale.
+// Case mapping of wide text by language-independent rules (POSIX: ICU's root rules; Windows:
+// LCMapStringEx with the invariant locale), so that the result never depends on the machine's
+// locale.
 #pragma once
 
 #include <string>

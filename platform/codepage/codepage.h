@@ -1,6 +1,7 @@
 // Conversions between narrow text (bytes in a Windows code page) and wide text (UTF-16), and the
-// machine's code pages. ICU does every conversion; code pages are Windows code-page numbers.
-// Each thread keeps the converters it has opened, so repeated conversions cost no set-up.
+// machine's code pages; code pages are Windows code-page numbers. On POSIX ICU does every
+// conversion (each thread keeps the converters it has opened, so repeated conversions cost no
+// set-up); on Windows the system's own conversion does, with the same answers.
 #pragma once
 
 #include <cstdint>
@@ -23,15 +24,20 @@ class ECodePageError : public std::runtime_error {
 };
 
 // The ICU converter name of a Windows code page ("windows-950-2000" for 950 ...); empty when the
-// number is not known.
+// number is not known. POSIX builds convert through these converters.
 std::string ConverterName(int codePage);
 
-// The system's ANSI code page. On POSIX: the environment variable MV_CODEPAGE when it holds a
-// number, else the character set of the locale (BIG5 / BIG5-HKSCS -> 950, GBK / GB2312 /
-// GB18030 -> 936, UTF-8 -> 65001, anything else -> 1252).
+// True when the conversions below serve code page `codePage` (POSIX: it has an ICU converter;
+// Windows: the system has the code page).
+[[nodiscard]] bool IsKnownCodePage(int codePage);
+
+// The system's ANSI code page: the environment variable MV_CODEPAGE when it holds a number, else
+// on POSIX the character set of the locale (BIG5 / BIG5-HKSCS -> 950, GBK / GB2312 / GB18030 ->
+// 936, UTF-8 -> 65001, anything else -> 1252), on Windows the system's ANSI code page (GetACP).
 int SystemCodePage();
 
-// The user's ANSI code page; the same rules as SystemCodePage on POSIX.
+// The user's ANSI code page: MV_CODEPAGE when it holds a number, else on POSIX the same rules as
+// SystemCodePage, on Windows the ANSI code page of the user's locale.
 int UserCodePage();
 
 // Wide text of narrow text in `codePage`. Bytes that the code page does not map become U+FFFD.
@@ -41,8 +47,9 @@ std::u16string ToWide(std::string_view text, int codePage);
 // Narrow text in `codePage` of wide text, as the platform's conversion gives it: a character the
 // code page holds only as a best fit becomes that fit (with 950, "é" -> "e", "¥" -> A244,
 // "•" -> A145), a character without any row becomes "?", and default-ignorable ones it lacks
-// (variation selectors, joiners) are dropped. ICU's fallback mappings are the best-fit rows; for
-// 950 they agree with the platform's published best-fit table. Unpaired surrogates become "?".
+// (variation selectors, joiners) are dropped. On POSIX ICU's fallback mappings are the best-fit
+// rows; for 950 they agree with the platform's published best-fit table, which Windows applies
+// itself. Unpaired surrogates become "?".
 // Throws ECodePageError for an unknown code page.
 [[nodiscard]] std::string FromWide(std::u16string_view text, int codePage);
 

@@ -1,5 +1,5 @@
 // Order of texts as the user's language sorts them: the comparison behind every sorted string
-// list of the library. ICU's collator does the work.
+// list of the library. ICU's collator does the work on POSIX, CompareStringEx on Windows.
 #pragma once
 
 #include <string_view>

@@ -5,10 +5,15 @@
 
 namespace mv::codepage {
 
-// MV_CODEPAGE when it holds a positive number, else the code page of the locale's character set.
+// The code page that MV_CODEPAGE names when it holds a number from 1 to 65535, else 0.
+int CodePageOverride();
+
+// MV_CODEPAGE when it holds a positive number, else the code page of the locale's character set
+// (POSIX) or the system's ANSI code page (Windows).
 int CodePageOfEnvironment();
 
 // The Windows code page of a character-set name as the C library reports it ("BIG5-HKSCS" -> 950).
+// POSIX only.
 int CodePageOfCharset(std::string_view charset);
 
 }  // namespace mv::codepage

@@ -24,15 +24,6 @@ int CodePageOfCharset(std::string_view charset) {
 
 namespace {
 
-// MV_CODEPAGE when it holds a code page number, else 0.
-int CodePageOverride() {
-  const char* env = std::getenv("MV_CODEPAGE");
-  if (env == nullptr || *env == '\0') return 0;
-  char* end = nullptr;
-  long value = std::strtol(env, &end, 10);
-  return end != env && *end == '\0' && value > 0 && value < 65536 ? static_cast<int>(value) : 0;
-}
-
 // The code page of the environment's locale, without changing the process's own locale.
 int CodePageOfLocale() {
   locale_t loc = newlocale(LC_CTYPE_MASK, "", static_cast<locale_t>(0));

@@ -5,7 +5,8 @@
 
 namespace mv::codepage {
 
-// The locale name that decides the user's language ("zh_TW.UTF-8"); "C" when none is set.
+// The locale name that decides the user's language (POSIX "zh_TW.UTF-8", Windows "zh-TW"); "C"
+// when none is set.
 std::string UserLocaleName();
 
 // The locale name that decides the system's language; "C" when none is set.

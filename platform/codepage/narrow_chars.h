@@ -1,5 +1,6 @@
 // Where the characters of narrow text lie: which bytes of a Big5 (or other multi-byte code page)
-// text belong together. The code page's ICU converter decides; there are no tables of our own.
+// text belong together. The code page's converter decides (ICU on POSIX, the system's conversion
+// on Windows); there are no tables of our own.
 #pragma once
 
 #include <memory>

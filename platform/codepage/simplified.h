@@ -7,10 +7,10 @@
 
 namespace mv::codepage {
 
-// Wide text with every Traditional Chinese character replaced by its Simplified form (ICU's
-// "Hant-Hans" transliterator, which also picks the usual word forms: 頭髮 -> 头发); every other
-// character, unpaired surrogates included, is unchanged. Throws ECodePageError when the
-// transliterator cannot be created (ICU data missing).
+// Wide text with every Traditional Chinese character replaced by its Simplified form (POSIX: ICU's
+// "Hant-Hans" transliterator, which also picks the usual word forms: 頭髮 -> 头发; Windows:
+// LCMapStringEx, character by character); every other character, unpaired surrogates included,
+// is unchanged. Throws ECodePageError when the mapping is not available (ICU data missing).
 std::u16string ToSimplified(std::u16string_view text);
 
 // Big5 narrow text (code page 950) as GBK narrow text (code page 936) in Simplified Chinese. Bytes

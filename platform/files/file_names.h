@@ -3,7 +3,8 @@
 // under 936, Western under 1252 and the C locale); file names on POSIX are UTF-8 bytes whatever
 // the locale, so every system call of platform/ goes through EncodeFileName, and every name the
 // system hands back (directory entries, the program's path, arguments and environment values that
-// name files) through DecodeFileName.
+// name files) through DecodeFileName. On Windows the file calls take UTF-16 (converted inside
+// platform/ at the call); these two serve what takes UTF-8 names there too (SQLite files).
 #pragma once
 
 #include <optional>

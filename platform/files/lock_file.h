@@ -31,6 +31,8 @@ enum class TLockError {
 // dies, so a file left behind never blocks the next taker. The handle is not passed on to
 // programs the process starts. When the file is removed or replaced while the lock is being taken,
 // the attempt fails, so that two takers never hold two different files of one name.
+// Windows: the file opened with no sharing at all (the client's exclusive open); every other open
+// fails until the handle is closed, and the system closes the handles of a process that ends.
 int32_t LockFileExclusive(const std::string& path);
 // The same, telling in `error` why the lock was not taken (kNone when it was).
 int32_t LockFileExclusive(const std::string& path, TLockError& error);
@@ -46,7 +48,8 @@ void UnlockFile(int32_t handle);
 
 // Removes the lock file `path` unless it is held: the lock is taken for the removal, so a file
 // that someone holds stays on disk (as a file held open stays on a system that refuses to remove
-// it). True when the file is gone afterwards.
+// it). True when the file is gone afterwards. Windows: opened without sharing and removed on
+// closing.
 bool RemoveLockFile(const std::string& path);
 
 }  // namespace mv::files

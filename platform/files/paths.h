@@ -1,7 +1,8 @@
 // File-system facts the library needs: the path separator, existence checks, file names found
 // without regard to case, and whole-file reads and atomic replacement. Every path here is a
 // narrow path in the system code page; it reaches the system through EncodeFileName
-// (file_names.h), so a path that holds a zero byte names no file.
+// (file_names.h) on POSIX and as UTF-16 through the wide calls on Windows, so a path that holds a
+// zero byte names no file.
 #pragma once
 
 #include <optional>
@@ -12,7 +13,11 @@
 namespace mv::files {
 
 // The platform's path separator; it stands wherever the client's rules write a backslash.
+#ifdef _WIN32
+inline constexpr char kPathDelim = '\\';
+#else
 inline constexpr char kPathDelim = '/';
+#endif
 
 // Raised when a file cannot be read or written; the message names the file and the cause.
 class EFileError : public std::runtime_error {
@@ -38,6 +43,7 @@ bool RenameFile(const std::string& from, const std::string& to);
 
 // `path` with its last component matched without regard to ASCII case inside its folder, so that
 // "SEDIFSYS.INI" finds "sedifsys.ini". An exact match wins; when nothing matches, `path` itself.
+// Windows: `path` itself, since the file system matches names without regard to case.
 std::string ResolveFileName(const std::string& path);
 
 // The folder part of `path` up to and including its last separator; empty when there is none.

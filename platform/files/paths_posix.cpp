@@ -80,16 +80,6 @@ bool RenameFile(const std::string& from, const std::string& to) {
   return source && target && ::rename(source->c_str(), target->c_str()) == 0;
 }
 
-std::string ExtractFilePath(std::string_view path) {
-  size_t pos = path.rfind(kPathDelim);
-  return pos == std::string_view::npos ? std::string() : std::string(path.substr(0, pos + 1));
-}
-
-std::string IncludeTrailingDelimiter(std::string path) {
-  if (!path.empty() && path.back() != kPathDelim) path += kPathDelim;
-  return path;
-}
-
 std::string ResolveFileName(const std::string& path) {
   if (path.empty() || FileType(path) != 0) return path;
   const std::string folder = ExtractFilePath(path);

@@ -142,7 +142,7 @@ struct TIniFile::Impl {
 TIniFile::TIniFile(const std::string& fileName) {
   int codePage = codepage::SystemCodePage();
   // A code page no converter serves would make every UTF-16 look-up fail; read as Western then.
-  if (codepage::ConverterName(codePage).empty()) codePage = codepage::kWestern;
+  if (!codepage::IsKnownCodePage(codePage)) codePage = codepage::kWestern;
   impl_ = std::make_unique<Impl>(FullFileName(fileName), codePage);
 }
 

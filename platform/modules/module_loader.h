@@ -11,13 +11,19 @@ namespace mv::modules {
 using ModuleHandle = std::uintptr_t;
 
 // The platform's file extension of package modules (service packages, outside check libraries).
+#ifdef _WIN32
+inline constexpr std::string_view kPackageExtension = ".dll";
+#else
 inline constexpr std::string_view kPackageExtension = ".so";
+#endif
 
 // The platform's file name of a module called `baseName` ("ChkBRN" -> "ChkBRN.so").
 std::string ModuleFileName(std::string_view baseName);
 
-// Loads the module at `path` and runs its initialisation; a name without a folder is looked for
-// by the system's module search. Returns 0 on failure (LastModuleError tells why).
+// Loads the module at `path` (narrow, system code page) and runs its initialisation; a name
+// without a folder is looked for by the system's module search. Returns 0 on failure
+// (LastModuleError tells why). Windows: the modules a package needs are looked for in its own
+// folder first.
 ModuleHandle LoadModule(const std::string& path);
 
 // Loads the running program's own executable file as a module, so its exports can be found.

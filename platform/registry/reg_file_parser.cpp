@@ -169,7 +169,7 @@ std::u16string DecodeFile(std::string_view bytes, int narrowCodePage) {
 }  // namespace
 
 std::u16string WideOfNarrow(std::string_view text, int codePage) {
-  if (codepage::ConverterName(codePage).empty()) codePage = codepage::kWestern;
+  if (!codepage::IsKnownCodePage(codePage)) codePage = codepage::kWestern;
   try {
     return codepage::ToWide(text, codePage);
   } catch (const codepage::ECodePageError&) {

@@ -1,4 +1,5 @@
-// Read-only access to string values under the local-machine root of the registry.
+// Read-only access to string values under the local-machine root of the registry: on Windows the
+// system's registry, on POSIX a file.
 // On POSIX the registry is a text file in the Windows registry export format ("Windows Registry
 // Editor Version 5.00", UTF-16LE with BOM, or "REGEDIT4", bytes in the system code page; UTF-8
 // is accepted too), so an administrator can export the key on Windows and copy it over. The file

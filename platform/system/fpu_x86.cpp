@@ -1,18 +1,17 @@
-#include <fpu_control.h>
-
+// The x87 control word, read and loaded with the processor's own instructions (the same on every
+// system of the x86 family).
 #include "platform/system/machine.h"
 
 namespace mv::sys {
 
 uint16_t GetFpuControlWord() {
-  fpu_control_t word = 0;
-  _FPU_GETCW(word);
-  return static_cast<uint16_t>(word & 0xFFFFu);
+  uint16_t word = 0;
+  __asm__ __volatile__("fnstcw %0" : "=m"(word));
+  return word;
 }
 
 void SetFpuControlWord(uint16_t word) {
-  fpu_control_t value = word;
-  _FPU_SETCW(value);
+  __asm__ __volatile__("fldcw %0" : : "m"(word));
 }
 
 }  // namespace mv::sys

@@ -9,7 +9,8 @@
 namespace mv::sys {
 
 // The folder that holds this machine's settings: the registry file and the per-machine
-// "WIN.INI". MV_MACHINE_DIR when set, else "/etc/mvcommon". No trailing separator.
+// "WIN.INI". MV_MACHINE_DIR when set, else "/etc/mvcommon" on POSIX and the Windows folder on
+// Windows. No trailing separator.
 std::string MachineFolder();
 
 // Full path of the running program's executable file.
@@ -24,8 +25,9 @@ void SetApplicationTitle(std::string title);
 // (standard output and error are flushed first so the last box is not lost).
 [[noreturn]] void TerminateProcess(int exitCode);
 
-// A process-wide message number registered under `name`: the same name always gives the same
-// number (0xC000 and up, as the window system does it).
+// A message number registered under `name` (narrow text): the same name always gives the same
+// number (0xC000 and up). POSIX: numbered within the process; Windows: RegisterWindowMessage, so
+// every program of the session gets the same number.
 uint32_t RegisterWindowMessage(std::string_view name);
 
 // The operating-system version record of the start-up.
@@ -40,6 +42,7 @@ struct TOSVersionInfo {
 inline constexpr uint32_t kOSVersionInfoSize = 148;
 
 // Fills `info` (its size field must be kOSVersionInfoSize); false when the system cannot tell.
+// POSIX: the kernel's release numbers; Windows: the version the kernel reports (RtlGetVersion).
 bool GetVersionEx(TOSVersionInfo& info);
 
 // The low 16 bits of the floating-point control word, and loading it back.

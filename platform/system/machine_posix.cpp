@@ -10,14 +10,6 @@
 #include "platform/system/machine.h"
 
 namespace mv::sys {
-namespace {
-
-std::string& TitleOverride() {
-  static std::string title;
-  return title;
-}
-
-}  // namespace
 
 std::string MachineFolder() {
   const char* env = std::getenv("MV_MACHINE_DIR");
@@ -33,18 +25,6 @@ std::string ExecutablePath() {
   if (n <= 0) return {};
   buffer.resize(static_cast<size_t>(n));
   return files::DecodeFileName(buffer);
-}
-
-std::string ApplicationTitle() {
-  if (!TitleOverride().empty()) return TitleOverride();
-  std::string path = ExecutablePath();
-  std::string name = path.substr(path.rfind('/') + 1);
-  size_t dot = name.rfind('.');
-  return dot == std::string::npos || dot == 0 ? name : name.substr(0, dot);
-}
-
-void SetApplicationTitle(std::string title) {
-  TitleOverride() = std::move(title);
 }
 
 void TerminateProcess(int exitCode) {

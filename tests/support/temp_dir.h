@@ -16,8 +16,9 @@ class TempDir {
 
   // The folder, without a trailing separator.
   const std::string& path() const { return path_; }
-  // path() + "/" + name.
+  // path() + separator + name, each "/" of `name` written as the platform's separator.
   std::string File(std::string_view name) const;
+  // Names given to Write, MakeDir and Read are UTF-8 (on POSIX: the bytes on disk).
   // Writes `bytes` to the file `name` (folders on the way are made) and returns its full path.
   std::string Write(std::string_view name, std::string_view bytes) const;
   // Makes the folder `name` (and its parents) and returns its full path.

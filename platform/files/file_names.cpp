@@ -13,7 +13,7 @@ bool IsAscii(std::string_view text) {
 // The code page narrow paths are in, or 0 when their bytes are the system's bytes already.
 int ConvertingCodePage() {
   const int codePage = codepage::SystemCodePage();
-  if (codePage == codepage::kUtf8 || codepage::ConverterName(codePage).empty()) return 0;
+  if (codePage == codepage::kUtf8 || !codepage::IsKnownCodePage(codePage)) return 0;
   return codePage;
 }
 
