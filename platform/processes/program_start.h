@@ -33,6 +33,8 @@ inline constexpr int32_t kStartBadFormat = 11;    // the file is not a program t
 // quote stays one character. A program name without "/" is looked up on PATH. The program runs
 // in a session of its own. smHidden gives it no terminal: its standard input, output and error
 // are /dev/null. smNormal lets it share the caller's.
+// Windows: the command line goes to CreateProcessW as it stands (UTF-16 of the system code page);
+// smHidden starts the program with its window hidden. A zero byte gives kStartNoCommand.
 int32_t StartProgram(const std::string& commandLine, TShowMode mode);
 
 // Starts the program `arguments[0]` with the arguments after it, each handed over whole as it

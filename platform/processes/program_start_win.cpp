@@ -1,11 +1,13 @@
-// Windows: the system's own start of a command line, whose result is the start result as it is.
-// An argument list is written as a command line with the quoting that a program's start-up
-// (CommandLineToArgvW, the C run-time) undoes, and started with CreateProcessW.
+// Windows: programs started with CreateProcessW. A command line is handed over as it stands; an
+// argument list is written as a command line with the quoting that a program's start-up
+// (CommandLineToArgvW, the C run-time) undoes. Narrow text is converted from the system code
+// page at the call.
 #include <windows.h>
 
 #include <string>
 #include <vector>
 
+#include "platform/files/wide_names_p.h"
 #include "platform/processes/program_start.h"
 
 namespace mv::processes {
@@ -33,31 +35,8 @@ std::wstring QuotedArgument(const std::wstring& argument) {
   return quoted;
 }
 
-// Narrow text in the system code page as UTF-16.
-std::wstring WideOfSystem(const std::string& text) {
-  if (text.empty()) return {};
-  const int size = static_cast<int>(text.size());
-  const int length = ::MultiByteToWideChar(CP_ACP, 0, text.data(), size, nullptr, 0);
-  std::wstring wide(static_cast<size_t>(length), L'\0');
-  ::MultiByteToWideChar(CP_ACP, 0, text.data(), size, wide.data(), length);
-  return wide;
-}
-
-}  // namespace
-
-int32_t StartProgram(const std::string& commandLine, TShowMode mode) {
-  const UINT result = ::WinExec(commandLine.c_str(), mode == smHidden ? SW_HIDE : SW_SHOWNORMAL);
-  return static_cast<int32_t>(result);
-}
-
-int32_t StartProgramArgs(const std::vector<std::string>& arguments, TShowMode mode) {
-  if (arguments.empty() || arguments.front().empty()) return kStartNoCommand;
-  std::wstring commandLine;
-  for (const std::string& argument : arguments) {
-    if (argument.find('\0') != std::string::npos) return kStartNoCommand;
-    if (!commandLine.empty()) commandLine += L' ';
-    commandLine += QuotedArgument(WideOfSystem(argument));
-  }
+// Starts the wide command line `commandLine`; the start result as the system's WinExec gives it.
+int32_t Start(std::wstring commandLine, TShowMode mode) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESHOWWINDOW;
@@ -65,13 +44,33 @@ int32_t StartProgramArgs(const std::vector<std::string>& arguments, TShowMode mo
   PROCESS_INFORMATION process{};
   if (!::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
                         &startup, &process)) {
-    // The system's error numbers below 32 are the start results of WinExec (2, 3, 5, 8, 11).
+    // The system's error numbers below 32 are the start results (2, 3, 5, 8, 11).
     const DWORD error = ::GetLastError();
     return error > 0 && error < 32 ? static_cast<int32_t>(error) : kStartBadFormat;
   }
   ::CloseHandle(process.hThread);
   ::CloseHandle(process.hProcess);
   return kStarted;
+}
+
+}  // namespace
+
+int32_t StartProgram(const std::string& commandLine, TShowMode mode) {
+  const std::optional<std::wstring> wide = files::WideFileName(commandLine);
+  if (!wide || wide->find_first_not_of(L" \t") == std::wstring::npos) return kStartNoCommand;
+  return Start(*wide, mode);
+}
+
+int32_t StartProgramArgs(const std::vector<std::string>& arguments, TShowMode mode) {
+  if (arguments.empty() || arguments.front().empty()) return kStartNoCommand;
+  std::wstring commandLine;
+  for (const std::string& argument : arguments) {
+    const std::optional<std::wstring> wide = files::WideFileName(argument);
+    if (!wide) return kStartNoCommand;
+    if (!commandLine.empty()) commandLine += L' ';
+    commandLine += QuotedArgument(*wide);
+  }
+  return Start(std::move(commandLine), mode);
 }
 
 }  // namespace mv::processes

@@ -1,6 +1,7 @@
 // Windows: top-level windows found by caption, placed and sent messages through the window system.
 #include <windows.h>
 
+#include "platform/files/wide_names_p.h"
 #include "platform/processes/top_windows.h"
 
 namespace mv::processes {
@@ -15,20 +16,22 @@ HWND AsWindow(TWindowHandle window) {
 // Lets the user interface handle every message that is waiting, without blocking.
 void HandleWaitingMessages() {
   MSG msg;
-  while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
+  while (::PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
     if (msg.message == WM_QUIT) {
       ::PostQuitMessage(static_cast<int>(msg.wParam));
       return;
     }
     ::TranslateMessage(&msg);
-    ::DispatchMessageA(&msg);
+    ::DispatchMessageW(&msg);
   }
 }
 
 }  // namespace
 
 TWindowHandle FindTopLevelWindow(const std::string& caption) {
-  return reinterpret_cast<TWindowHandle>(::FindWindowA(nullptr, caption.c_str()));
+  const std::optional<std::wstring> wide = files::WideFileName(caption);
+  if (!wide) return 0;
+  return reinterpret_cast<TWindowHandle>(::FindWindowW(nullptr, wide->c_str()));
 }
 
 TWindowHandle WaitForTopLevelWindow(const std::string& caption, std::chrono::seconds limit) {
@@ -58,7 +61,7 @@ bool CentreAndRaiseWindow(TWindowHandle window) {
 }
 
 bool PostWindowMessage(TWindowHandle window, uint32_t message, uint32_t wParam, uint32_t lParam) {
-  return ::PostMessageA(AsWindow(window), message, wParam, static_cast<LPARAM>(lParam)) != FALSE;
+  return ::PostMessageW(AsWindow(window), message, wParam, static_cast<LPARAM>(lParam)) != FALSE;
 }
 
 TWindowHandle HostWindow() {
@@ -71,14 +74,14 @@ void SetHostWindow(TWindowHandle window) {
 
 bool HandleHostMessage() {
   MSG msg;
-  const BOOL got = ::GetMessageA(&msg, nullptr, 0, 0);
+  const BOOL got = ::GetMessageW(&msg, nullptr, 0, 0);
   if (got <= 0) {
     // WM_QUIT (or a broken queue): the application is ending; the client's loop must see it too.
     if (got == 0) ::PostQuitMessage(static_cast<int>(msg.wParam));
     return false;
   }
   ::TranslateMessage(&msg);
-  ::DispatchMessageA(&msg);
+  ::DispatchMessageW(&msg);
   return true;
 }
 
