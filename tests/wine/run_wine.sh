@@ -46,7 +46,8 @@ winepath_of() {
 }
 
 make_template
-prefix=$(mktemp -d "$base/mvwine-XXXXXX")
+# Beside the template, so that hard links reach it (one file system).
+prefix=$(mktemp -d "$(dirname "$template")/mvwine-XXXXXX")
 cleanup() {
   WINEPREFIX=$prefix wineserver -k >/dev/null 2>&1 || true
   rm -rf "$prefix"
