@@ -18,7 +18,7 @@ constexpr int kBottomMargin = 34;
 void FillUnits(QComboBox& combo) {
   for (int unit = 0; unit < kTimeUnitCount; ++unit) {
     const std::u16string english = u" " + TimeUnitEngDesc[unit];
-    combo.addItem(QString::fromStdU16String(LangChanger().CStrW(english, TimeUnitChiDesc[unit])));
+    combo.addItem(QStringView(LangChanger().CStrW(english, TimeUnitChiDesc[unit])).toString());
   }
   combo.setCurrentIndex(0);
 }

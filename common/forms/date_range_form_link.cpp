@@ -61,7 +61,7 @@ TUI_Link* TForm_DateRangeSetter_Link::Caller() const {
 void TForm_DateRangeSetter_Link::UpdateUserDefined() {
   Form->ListBox1->clear();
   for (int i = 0; i < Setter->Count(); ++i)
-    Form->ListBox1->addItem(QString::fromStdU16String(Setter->GetDateParam(i)->DescriptionW()));
+    Form->ListBox1->addItem(QStringView(Setter->GetDateParam(i)->DescriptionW()).toString());
   ShowSelection(Selection);
 }
 

@@ -16,7 +16,7 @@ std::u16string ToU16(const QString& text) {
 }
 
 QString FromU16(const std::u16string& text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+  return QStringView(text).toString();
 }
 
 // The size of the outermost window above `owner`, frame included.

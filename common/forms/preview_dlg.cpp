@@ -30,7 +30,7 @@ namespace {
 constexpr int kTimerInterval = 700;
 
 QString Q(std::u16string_view text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+  return QStringView(text).toString();
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ namespace mv::forms {
 namespace {
 
 QString Q(const std::u16string& text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+  return QStringView(text).toString();
 }
 
 // The report whose page gets the orientation: the single report, or a composite's first one.

@@ -17,7 +17,7 @@ bool English() {
 }
 
 QString Text(const char* english, const char16_t* chinese) {
-  return English() ? QString::fromUtf8(english) : QString::fromStdU16String(chinese);
+  return English() ? QString::fromUtf8(english) : QStringView(chinese).toString();
 }
 
 QString Label(TTablesProgressDialog::TKind kind, const tables::TArchiveProgress& p) {
@@ -32,12 +32,10 @@ QString Label(TTablesProgressDialog::TKind kind, const tables::TArchiveProgress&
     return verb + " table " + table + " (" + index + " of " + count + ")\n" +
            (known ? rows + " of " + total + " rows" : rows + " rows");
   }
-  const QString verb = QString::fromStdU16String(
-      kind == TTablesProgressDialog::tkExport ? u"正在匯出資料表 " : u"正在匯入資料表 ");
-  return verb + table + QString::fromStdU16String(u"（第 ") + index +
-         QString::fromStdU16String(u" 個，共 ") + count + QString::fromStdU16String(u" 個）\n") +
-         QString::fromStdU16String(u"已處理 ") + (known ? rows + "／" + total : rows) +
-         QString::fromStdU16String(u" 筆");
+  const QString verb =
+      kind == TTablesProgressDialog::tkExport ? "正在匯出資料表 " : "正在匯入資料表 ";
+  return verb + table + "（第 " + index + " 個，共 " + count + " 個）\n" + "已處理 " +
+         (known ? rows + "／" + total : rows) + " 筆";
 }
 
 }  // namespace

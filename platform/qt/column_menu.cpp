@@ -10,7 +10,8 @@ namespace {
 
 // A display label as a menu caption: an "&" stays a character instead of marking a shortcut.
 QString Caption(const db::TField& field) {
-  return QString::fromStdU16String(codepage::ToWide(field.DisplayLabel(), codepage::UserCodePage()))
+  return QStringView(codepage::ToWide(field.DisplayLabel(), codepage::UserCodePage()))
+      .toString()
       .replace(u'&', QStringLiteral("&&"));
 }
 

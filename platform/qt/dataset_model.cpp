@@ -25,7 +25,7 @@ bool IsNumber(db::TFieldType type) {
 // ending the paint.
 QString DisplayText(const db::Variant& value) {
   try {
-    return QString::fromStdU16String(value.AsWideString());
+    return QStringView(value.AsWideString()).toString();
   } catch (const std::exception&) {
     return QString();
   }
@@ -104,8 +104,8 @@ QVariant DataSetModel::headerData(int section, Qt::Orientation orientation, int 
   if (orientation == Qt::Horizontal && role == Qt::DisplayRole) {
     db::TField* field = FieldOfColumn(section);
     if (field == nullptr) return {};
-    return QString::fromStdU16String(
-        codepage::ToWide(field->DisplayLabel(), codepage::UserCodePage()));
+    return QStringView(codepage::ToWide(field->DisplayLabel(), codepage::UserCodePage()))
+        .toString();
   }
   return QAbstractTableModel::headerData(section, orientation, role);
 }

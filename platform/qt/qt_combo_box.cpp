@@ -24,7 +24,7 @@ void QtComboBox::AddItem(const std::u16string& text) {
   // A combo box shows its first item as soon as it has one; the item shown stays the program's
   // choice.
   const int shown = combo_->currentIndex();
-  combo_->addItem(QString::fromStdU16String(text));
+  combo_->addItem(QStringView(text).toString());
   if (shown == -1) combo_->setCurrentIndex(-1);
 }
 

@@ -21,7 +21,7 @@ constexpr double kColumnGap = 6;
 constexpr int kSampleRows = 200;
 
 QString Wide(const std::u16string& text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+  return QStringView(text).toString();
 }
 
 bool IsNumber(db::TFieldType type) {
