@@ -8,6 +8,7 @@
 #include "common/text/lang_changer.h"
 #include "platform/codepage/codepage.h"
 #include "platform/qt/fixed_layout.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv {
 namespace {
@@ -18,7 +19,7 @@ constexpr int kBottomMargin = 34;
 void FillUnits(QComboBox& combo) {
   for (int unit = 0; unit < kTimeUnitCount; ++unit) {
     const std::u16string english = u" " + TimeUnitEngDesc[unit];
-    combo.addItem(QStringView(LangChanger().CStrW(english, TimeUnitChiDesc[unit])).toString());
+    combo.addItem(qt::ToQString(LangChanger().CStrW(english, TimeUnitChiDesc[unit])));
   }
   combo.setCurrentIndex(0);
 }

@@ -7,6 +7,7 @@
 #include "common/dates/date_range_setter.h"
 #include "common/dates/preset_dialog_opener.h"
 #include "common/forms/date_range_setter_form.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv {
 namespace {
@@ -61,7 +62,7 @@ TUI_Link* TForm_DateRangeSetter_Link::Caller() const {
 void TForm_DateRangeSetter_Link::UpdateUserDefined() {
   Form->ListBox1->clear();
   for (int i = 0; i < Setter->Count(); ++i)
-    Form->ListBox1->addItem(QStringView(Setter->GetDateParam(i)->DescriptionW()).toString());
+    Form->ListBox1->addItem(qt::ToQString(Setter->GetDateParam(i)->DescriptionW()));
   ShowSelection(Selection);
 }
 

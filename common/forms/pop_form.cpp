@@ -7,17 +7,10 @@
 #include "common/text/conversions.h"
 #include "common/text/lang_changer.h"
 #include "platform/qt/code_page_field.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv {
 namespace {
-
-std::u16string ToU16(const QString& text) {
-  return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<size_t>(text.size())};
-}
-
-QString FromU16(const std::u16string& text) {
-  return QStringView(text).toString();
-}
 
 // The size of the outermost window above `owner`, frame included.
 std::optional<QSize> MainWindowSize(const QWidget* owner) {
@@ -43,7 +36,7 @@ void TPopForm::SetSpeedButton(QToolButton* button) {
   button->setCheckable(true);
   button->setAutoExclusive(false);
   if (button->accessibleName().isEmpty()) {
-    button->setAccessibleName(FromU16(LangChanger().CStrW(u"Open list", u"開啟清單")));
+    button->setAccessibleName(qt::ToQString(LangChanger().CStrW(u"Open list", u"開啟清單")));
   }
   buttonClicked_ = connect(button, &QToolButton::clicked, this, [this](bool checked) {
     if (!checked) return;
@@ -75,7 +68,7 @@ bool TPopForm::IsUnicodeEdit() const {
 void TPopForm::Show() {
   std::string buf;
   if (sourceControl_) {
-    buf = MV_WideStringToAnsi(PopFormTextHead(ToU16(sourceControl_->text())));
+    buf = MV_WideStringToAnsi(PopFormTextHead(qt::ToU16String(sourceControl_->text())));
     if (sourceControl_->focusPolicy() != Qt::NoFocus && sourceControl_->isEnabled()) {
       sourceControl_->setFocus();
     }
@@ -97,12 +90,12 @@ void TPopForm::Close() {
 
 void TPopForm::DoSetFormData(std::string& buf) {
   if (onSetFormData_) onSetFormData_(*this, buf);
-  formData_ = IsUnicodeEdit() ? ToU16(sourceControl_->text()) : MV_AnsiToWideString(buf);
+  formData_ = IsUnicodeEdit() ? qt::ToU16String(sourceControl_->text()) : MV_AnsiToWideString(buf);
 }
 
 void TPopForm::DoGetFormData(std::string& buf) {
   formData_ = PickFormData(formData_, dataStyle_);
-  if (IsUnicodeEdit()) sourceControl_->setText(FromU16(formData_));
+  if (IsUnicodeEdit()) sourceControl_->setText(qt::ToQString(formData_));
   buf = MV_WideStringToAnsi(formData_);
   if (onGetFormData_) onGetFormData_(*this, buf);
 }
@@ -113,7 +106,7 @@ void TPopForm::FinishClose() {
     std::string buf;
     DoGetFormData(buf);
     if (sourceControl_ && !IsUnicodeEdit())
-      sourceControl_->setText(FromU16(MV_AnsiToWideString(buf)));
+      sourceControl_->setText(qt::ToQString(MV_AnsiToWideString(buf)));
     if (sourceControl_) sourceControl_->selectAll();
   }
   if (speedButton_) speedButton_->setChecked(false);

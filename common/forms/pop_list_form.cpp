@@ -4,29 +4,18 @@
 #include <QVBoxLayout>
 
 #include "common/text/lang_changer.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv {
-namespace {
-
-std::u16string ToU16(const QString& text) {
-  return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<size_t>(text.size())};
-}
-
-QString FromU16(const std::u16string& text) {
-  return QStringView(text).toString();
-}
-
-}  // namespace
-
 TPopListForm::TPopListForm(QWidget* owner) : TPopForm(owner), list_(new QListWidget(this)) {
   list_->setObjectName(QStringLiteral("list"));
-  list_->setAccessibleName(FromU16(LangChanger().CStrW(u"List", u"清單")));
+  list_->setAccessibleName(qt::ToQString(LangChanger().CStrW(u"List", u"清單")));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(1, 1, 1, 1);
   layout->addWidget(list_);
   setFocusProxy(list_);
   connect(list_, &QListWidget::itemDoubleClicked, this, [this](QListWidgetItem* item) {
-    SetFormData(ToU16(item->text()));
+    SetFormData(qt::ToU16String(item->text()));
     SetModalResult(mrOk);
     Close();
   });
@@ -34,14 +23,14 @@ TPopListForm::TPopListForm(QWidget* owner) : TPopForm(owner), list_(new QListWid
 
 void TPopListForm::SetItems(const std::vector<std::u16string>& items) {
   list_->clear();
-  for (const auto& item : items) list_->addItem(FromU16(item));
+  for (const auto& item : items) list_->addItem(qt::ToQString(item));
 }
 
 void TPopListForm::DoSetFormData(std::string& buf) {
   TPopForm::DoSetFormData(buf);
   list_->setCurrentRow(-1);
   for (int row = 0; row < list_->count(); ++row) {
-    if (PickFormData(ToU16(list_->item(row)->text()), DataStyle()) == FormData()) {
+    if (PickFormData(qt::ToU16String(list_->item(row)->text()), DataStyle()) == FormData()) {
       list_->setCurrentRow(row);
       break;
     }
@@ -51,7 +40,8 @@ void TPopListForm::DoSetFormData(std::string& buf) {
 void TPopListForm::keyPressEvent(QKeyEvent* event) {
   // The list passes Enter on to the form, which closes with OK.
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (enter && list_->currentItem() != nullptr) SetFormData(ToU16(list_->currentItem()->text()));
+  if (enter && list_->currentItem() != nullptr)
+    SetFormData(qt::ToU16String(list_->currentItem()->text()));
   TPopForm::keyPressEvent(event);
 }
 

@@ -20,6 +20,7 @@
 #include "common/text/caption_handler.h"
 #include "common/text/lang_changer.h"
 #include "platform/qt/qt_caption_target.h"
+#include "platform/qt/qt_text.h"
 #include "platform/report/composite_report.h"
 #include "platform/report/preview_control.h"
 #include "platform/report/printers.h"
@@ -28,10 +29,6 @@ namespace mv::forms {
 namespace {
 
 constexpr int kTimerInterval = 700;
-
-QString Q(std::u16string_view text) {
-  return QStringView(text).toString();
-}
 
 }  // namespace
 
@@ -205,11 +202,12 @@ void TPreviewDlg::ShowLanguage(uint8_t language) {
   const bool english = language == kLangEnglish;
   for (std::size_t i = 0; i < kZoomItems.size(); ++i) {
     const TZoomItem& item = kZoomItems[i];
-    cbxZoom_->setItemText(static_cast<int>(i),
-                          Q(ShownWide(language, english ? item.english : item.chinese)));
+    cbxZoom_->setItemText(
+        static_cast<int>(i),
+        qt::ToQString(ShownWide(language, english ? item.english : item.chinese)));
   }
   const auto name = [&](QWidget* w, std::u16string_view en, std::u16string_view zh) {
-    w->setAccessibleName(Q(ShownWide(language, english ? en : zh)));
+    w->setAccessibleName(qt::ToQString(ShownWide(language, english ? en : zh)));
   };
   name(edtPage_, u"Page", u"頁次");
   name(btnPrior_, u"Previous page", u"上一頁");
@@ -233,7 +231,7 @@ void TPreviewDlg::ShowLanguage(uint8_t language) {
 }
 
 void TPreviewDlg::SetStatusText(const std::u16string& text) {
-  statusText_->setText(Q(ShownWide(Language(), text)));
+  statusText_->setText(qt::ToQString(ShownWide(Language(), text)));
 }
 
 void TPreviewDlg::Timer1Timer() {

@@ -17,6 +17,7 @@
 #include "platform/codepage/codepage.h"
 #include "platform/files/paths.h"
 #include "platform/ini/ini_file.h"
+#include "platform/qt/qt_text.h"
 #include "platform/report/composite_report.h"
 #include "platform/report/preview_control.h"
 #include "platform/report/preview_handler.h"
@@ -25,10 +26,6 @@
 
 namespace mv::forms {
 namespace {
-
-QString Q(const std::u16string& text) {
-  return QStringView(text).toString();
-}
 
 // The report whose page gets the orientation: the single report, or a composite's first one.
 report::TReport* PageOwner(report::TReport& shown) {
@@ -101,7 +98,7 @@ QString TPreviewDlg::ExportFolder() const {
   const std::string fallback = ServerPath + "EXPORT" + files::kPathDelim;
   const ini::TIniFile config(ServerPath + Global_Merovan_Ini);
   const std::string folder = config.ReadString("Advance", "ExportPath", fallback);
-  return Q(codepage::ToWide(folder, codepage::SystemCodePage()));
+  return qt::ToQString(codepage::ToWide(folder, codepage::SystemCodePage()));
 }
 
 void TPreviewDlg::btnExportClick() {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "common/text/lang_changer.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv {
 namespace {
@@ -17,7 +18,7 @@ bool English() {
 }
 
 QString Text(const char* english, const char16_t* chinese) {
-  return English() ? QString::fromUtf8(english) : QStringView(chinese).toString();
+  return English() ? QString::fromUtf8(english) : qt::ToQString(chinese);
 }
 
 QString Label(TTablesProgressDialog::TKind kind, const tables::TArchiveProgress& p) {

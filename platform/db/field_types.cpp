@@ -60,4 +60,17 @@ TFieldType FieldTypeOfDeclared(const char* declaredType) {
   return ftUnknown;
 }
 
+bool IsNumericType(TFieldType type) {
+  switch (type) {
+    case ftSmallint:
+    case ftInteger:
+    case ftFloat:
+    case ftBCD:
+    case ftLargeint:
+      return true;
+    default:
+      return false;
+  }
+}
+
 }  // namespace mv::db

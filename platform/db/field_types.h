@@ -29,4 +29,7 @@ enum TFieldType : uint8_t {
 // compared without regard to case; ftUnknown when the name means nothing here.
 TFieldType FieldTypeOfDeclared(const char* declaredType);
 
+// True for the number types (smallint, int, float, decimal, bigint): the ones shown right-aligned.
+[[nodiscard]] bool IsNumericType(TFieldType type);
+
 }  // namespace mv::db

@@ -4,14 +4,14 @@
 #include <QKeyEvent>
 
 #include "platform/codepage/codepage.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv::qt {
 namespace {
 
 // A display label as a menu caption: an "&" stays a character instead of marking a shortcut.
 QString Caption(const db::TField& field) {
-  return QStringView(codepage::ToWide(field.DisplayLabel(), codepage::UserCodePage()))
-      .toString()
+  return ToQString(codepage::ToWide(field.DisplayLabel(), codepage::UserCodePage()))
       .replace(u'&', QStringLiteral("&&"));
 }
 

@@ -4,28 +4,17 @@
 #include <exception>
 
 #include "platform/codepage/codepage.h"
+#include "platform/db/field_types.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv::qt {
 namespace {
-
-bool IsNumber(db::TFieldType type) {
-  switch (type) {
-    case db::ftSmallint:
-    case db::ftInteger:
-    case db::ftFloat:
-    case db::ftBCD:
-    case db::ftLargeint:
-      return true;
-    default:
-      return false;
-  }
-}
 
 // A value as the grid shows it; a value that cannot be read as text shows nothing rather than
 // ending the paint.
 QString DisplayText(const db::Variant& value) {
   try {
-    return QStringView(value.AsWideString()).toString();
+    return ToQString(value.AsWideString());
   } catch (const std::exception&) {
     return QString();
   }
@@ -94,8 +83,8 @@ QVariant DataSetModel::data(const QModelIndex& index, int role) const {
     return CellText(*field, index.row());
   }
   if (role == Qt::TextAlignmentRole) {
-    return QVariant::fromValue(Qt::AlignVCenter |
-                               (IsNumber(field->DataType()) ? Qt::AlignRight : Qt::AlignLeft));
+    return QVariant::fromValue(
+        Qt::AlignVCenter | (db::IsNumericType(field->DataType()) ? Qt::AlignRight : Qt::AlignLeft));
   }
   return {};
 }
@@ -104,8 +93,7 @@ QVariant DataSetModel::headerData(int section, Qt::Orientation orientation, int 
   if (orientation == Qt::Horizontal && role == Qt::DisplayRole) {
     db::TField* field = FieldOfColumn(section);
     if (field == nullptr) return {};
-    return QStringView(codepage::ToWide(field->DisplayLabel(), codepage::UserCodePage()))
-        .toString();
+    return ToQString(codepage::ToWide(field->DisplayLabel(), codepage::UserCodePage()));
   }
   return QAbstractTableModel::headerData(section, orientation, role);
 }

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/button_captions.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv::qt {
 namespace {
@@ -15,7 +16,7 @@ QLineEdit* AddEdit(QDialog& dialog, const dialogs::InputQueryRequest& request) {
   auto* edit = new QLineEdit(&dialog);
   edit->setObjectName(QString::fromLatin1(kInputEditName));
   if (request.maxLength > 0) edit->setMaxLength(request.maxLength);
-  edit->setText(QStringView(request.value).toString());
+  edit->setText(ToQString(request.value));
   edit->selectAll();
   edit->setFocus();
   return edit;
@@ -25,14 +26,14 @@ QLabel* AddPrompt(QDialog& dialog, const dialogs::InputQueryRequest& request, QL
   auto* prompt = new QLabel(&dialog);
   prompt->setObjectName(QString::fromLatin1(kInputPromptName));
   prompt->setTextFormat(Qt::PlainText);
-  prompt->setText(QStringView(request.prompt).toString());
+  prompt->setText(ToQString(request.prompt));
   prompt->setBuddy(edit);
   return prompt;
 }
 
 QPushButton* AddButton(QDialogButtonBox& box, dialogs::TMsgDlgBtn button, bool english,
                        QDialogButtonBox::ButtonRole role) {
-  QPushButton* widget = box.addButton(QStringView(ButtonCaption(button, english)).toString(), role);
+  QPushButton* widget = box.addButton(ToQString(ButtonCaption(button, english)), role);
   widget->setObjectName(QString::fromLatin1(ButtonObjectName(button)));
   return widget;
 }
@@ -51,7 +52,7 @@ QDialogButtonBox* AddButtons(QDialog& dialog, bool english) {
 std::unique_ptr<QDialog> MakeInputDialog(const dialogs::InputQueryRequest& request, bool english) {
   auto dialog = std::make_unique<QDialog>();
   dialog->setObjectName(QString::fromLatin1(kInputDialogName));
-  dialog->setWindowTitle(QStringView(request.caption).toString());
+  dialog->setWindowTitle(ToQString(request.caption));
   QLineEdit* edit = AddEdit(*dialog, request);
   auto* layout = new QVBoxLayout(dialog.get());
   layout->addWidget(AddPrompt(*dialog, request, edit));

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "platform/qt/button_captions.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv::qt {
 namespace {
@@ -53,8 +54,7 @@ QMessageBox::ButtonRole RoleOf(TMsgDlgBtn button) {
 }
 
 QPushButton* AddButton(QMessageBox& box, TMsgDlgBtn button, bool english) {
-  QPushButton* widget =
-      box.addButton(QStringView(ButtonCaption(button, english)).toString(), RoleOf(button));
+  QPushButton* widget = box.addButton(ToQString(ButtonCaption(button, english)), RoleOf(button));
   widget->setObjectName(QString::fromLatin1(ButtonObjectName(button)));
   widget->setProperty(kButtonProperty, static_cast<int>(button));
   return widget;
@@ -63,7 +63,7 @@ QPushButton* AddButton(QMessageBox& box, TMsgDlgBtn button, bool english) {
 QString TitleOf(const dialogs::DialogRequest& request, bool english) {
   const std::u16string& title =
       request.caption.empty() ? KindTitle(request.kind, english) : request.caption;
-  return QStringView(title).toString();
+  return ToQString(title);
 }
 
 void AddButtons(QMessageBox& box, const dialogs::DialogRequest& request, bool english) {
@@ -93,7 +93,7 @@ std::unique_ptr<QMessageBox> MakeMsgBox(const dialogs::DialogRequest& request, b
   box->setIcon(IconOf(request.kind));
   box->setWindowTitle(TitleOf(request, english));
   box->setTextFormat(Qt::PlainText);
-  box->setText(QStringView(request.text).toString());
+  box->setText(ToQString(request.text));
   AddButtons(*box, request, english);
   return box;
 }

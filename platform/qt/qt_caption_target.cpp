@@ -1,5 +1,7 @@
 #include "platform/qt/qt_caption_target.h"
 
+#include "platform/qt/qt_text.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QDockWidget>
@@ -52,7 +54,7 @@ bool SetObjectCaption(QObject& object, const QString& caption) {
 bool QtCaptionTarget::SetCaption(std::string_view controlName, const std::u16string& caption) {
   if (root_ == nullptr || controlName.empty()) return false;
   const QString name = QString::fromUtf8(controlName.data(), std::ssize(controlName));
-  const QString text = QStringView(caption).toString();
+  const QString text = ToQString(caption);
   if (root_->objectName() == name && SetWidgetCaption(*root_, text)) return true;
   for (QObject* object : root_->findChildren<QObject*>(name)) {
     if (SetObjectCaption(*object, text)) return true;

@@ -1,5 +1,7 @@
 #include "platform/qt/qt_combo_box.h"
 
+#include "platform/qt/qt_text.h"
+
 namespace mv::qt {
 
 QtComboBox::QtComboBox(QComboBox& combo) : QObject(&combo), combo_(&combo) {
@@ -24,7 +26,7 @@ void QtComboBox::AddItem(const std::u16string& text) {
   // A combo box shows its first item as soon as it has one; the item shown stays the program's
   // choice.
   const int shown = combo_->currentIndex();
-  combo_->addItem(QStringView(text).toString());
+  combo_->addItem(ToQString(text));
   if (shown == -1) combo_->setCurrentIndex(-1);
 }
 

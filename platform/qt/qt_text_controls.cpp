@@ -1,28 +1,18 @@
 #include "platform/qt/qt_text_controls.h"
 
+#include "platform/qt/qt_text.h"
+
 namespace mv::qt {
-namespace {
-
-std::u16string ToU16(const QString& text) {
-  return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<size_t>(text.size())};
-}
-
-QString FromU16(const std::u16string& text) {
-  return QStringView(text).toString();
-}
-
-}  // namespace
-
 QtLabelText::QtLabelText(QLabel* label) : label_(label) {
   if (label_) label_->setTextFormat(Qt::PlainText);
 }
 
 std::u16string QtLabelText::Text() const {
-  return label_ ? ToU16(label_->text()) : std::u16string();
+  return label_ ? ToU16String(label_->text()) : std::u16string();
 }
 
 void QtLabelText::SetText(const std::u16string& text) {
-  if (label_) label_->setText(FromU16(text));
+  if (label_) label_->setText(ToQString(text));
 }
 
 bool QtLabelText::Visible() const {
@@ -36,11 +26,11 @@ void QtLabelText::SetVisible(bool visible) {
 QtWindowTitle::QtWindowTitle(QWidget* window) : window_(window) {}
 
 std::u16string QtWindowTitle::Text() const {
-  return window_ ? ToU16(window_->windowTitle()) : std::u16string();
+  return window_ ? ToU16String(window_->windowTitle()) : std::u16string();
 }
 
 void QtWindowTitle::SetText(const std::u16string& text) {
-  if (window_) window_->setWindowTitle(FromU16(text));
+  if (window_) window_->setWindowTitle(ToQString(text));
 }
 
 bool QtWindowTitle::Visible() const {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/qt/qt_font.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv::qt {
 namespace {
@@ -81,7 +82,7 @@ std::u16string TextWrapping(const TextFont& font, int width, std::u16string_view
     return std::u16string(text);
   const LineFit fits(ToQFont(font), width);
   QStringList lines;
-  for (const QString& paragraph : Paragraphs(QStringView(text).toString()))
+  for (const QString& paragraph : Paragraphs(ToQString(text)))
     WrapParagraph(paragraph, fits, lines);
   return lines.join(QStringLiteral("\r\n")).toStdU16String();
 }

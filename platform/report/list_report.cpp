@@ -6,6 +6,8 @@
 
 #include "platform/codepage/codepage.h"
 #include "platform/db/dataset.h"
+#include "platform/db/field_types.h"
+#include "platform/qt/qt_text.h"
 
 namespace mv::report {
 namespace {
@@ -19,23 +21,6 @@ constexpr double kFooterHeight = 24;
 constexpr double kColumnGap = 6;
 // Rows read to find how wide each column's values are.
 constexpr int kSampleRows = 200;
-
-QString Wide(const std::u16string& text) {
-  return QStringView(text).toString();
-}
-
-bool IsNumber(db::TFieldType type) {
-  switch (type) {
-    case db::ftSmallint:
-    case db::ftInteger:
-    case db::ftFloat:
-    case db::ftBCD:
-    case db::ftLargeint:
-      return true;
-    default:
-      return false;
-  }
-}
 
 // Control characters of the data would print as boxes or move the text: blanks instead.
 QString Printable(QString text) {
@@ -85,8 +70,8 @@ void TListReport::LayOutColumns() {
     db::TField& field = dataset_.Fields(i);
     if (!field.Visible()) continue;
     const QString title =
-        Printable(Wide(codepage::ToWide(field.DisplayLabel(), codepage::UserCodePage())));
-    columns_.push_back({i, title, 0, 0, IsNumber(field.DataType())});
+        Printable(qt::ToQString(codepage::ToWide(field.DisplayLabel(), codepage::UserCodePage())));
+    columns_.push_back({i, title, 0, 0, db::IsNumericType(field.DataType())});
     natural.push_back(heading.horizontalAdvance(title));
   }
   // Values of rows spread over the whole list (the first and the last among them), when the
@@ -100,7 +85,7 @@ void TListReport::LayOutColumns() {
                                      : 1 + static_cast<int>(static_cast<long long>(rows - 1) *
                                                             sample / (samples - 1)));
       for (std::size_t c = 0; c < columns_.size(); ++c) {
-        const QString value = Wide(dataset_.Fields(columns_[c].field).AsWideString());
+        const QString value = qt::ToQString(dataset_.Fields(columns_[c].field).AsWideString());
         natural[c] = std::max(natural[c], body.horizontalAdvance(value));
       }
     }
@@ -140,7 +125,7 @@ void TListReport::DrawHeader(TPageRecording& recording) const {
 double TListReport::DrawRow(TPageRecording& recording, double y) {
   const QFontMetricsF metrics(bodyFont_);
   for (const TColumn& column : columns_) {
-    const QString value = Printable(Wide(dataset_.Fields(column.field).AsWideString()));
+    const QString value = Printable(qt::ToQString(dataset_.Fields(column.field).AsWideString()));
     const Qt::Alignment align = column.alignRight ? Qt::AlignRight : Qt::AlignLeft;
     const double inner = std::max(0.0, column.width - kColumnGap);
     recording.DrawText(QRectF(column.x, y, inner, kRowHeight),
